@@ -1,0 +1,57 @@
+#pragma once
+
+#include <cstdint>
+#include <filesystem>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "platform/store/recordset.h"
+
+namespace pantrigo {
+
+/// The one open store: a single file, opened for reading and writing with an exclusive lock. Copies share it.
+class Database {
+ public:
+  /// A database that was never opened: every operation is error 3420.
+  Database();
+
+  /// Opens the file. Errors: 3024 when it is missing, 3343 when it is no store or empty, 3078 when a table is missing, 3045
+  /// when another process has it open, 3051 when it can't be read. A read-only file or folder opens, and its first write is
+  /// error 3027. Nothing about the file is changed before its signature, its length and its tables were checked. Counters
+  /// of `System` below the highest id of their table are raised (not in a read-only store), see `raiseCounters`.
+  [[nodiscard]] static Database OpenDatabase(const std::filesystem::path& file);
+
+  /// Makes a new store file with all tables, indexes and one `System` row (every field as a new row has it, counters 0), and
+  /// closes it. Error 75 when the file exists already or can't be made.
+  static void createStore(const std::filesystem::path& file);
+
+  /// Opens a cursor: on a table when the text is a table's name, else on the result of an SQL text. Errors: 3078 for an
+  /// unknown table, 3075 for an SQL text that is not understood, 93 for an invalid `like` pattern.
+  [[nodiscard]] Recordset OpenRecordset(std::string_view source);
+
+  /// Runs a " Delete FROM ..." text. Durable when it returns. Errors: 3075, 3027.
+  void Execute(std::string_view sql);
+
+  /// Ends pending edits, leaves one file in rollback-journal mode, and releases it. Recordsets left open then answer
+  /// error 3420. Closing a closed database does nothing.
+  void Close();
+
+  [[nodiscard]] bool isOpen() const;
+
+  /// Raises each counter of `System` that lies below the highest id of its table to that id.
+  void raiseCounters();
+
+  /// During imports and list-wide loops updates are made durable together at the loop's end; this switches between
+  /// the two ways, and makes a checkpoint when it goes back to `EachUpdate`.
+  enum class Durability { EachUpdate, AtCheckpoint };
+  void setDurability(Durability durability);
+
+  struct State;
+
+ private:
+  std::shared_ptr<State> state_;
+};
+
+}  // namespace pantrigo
