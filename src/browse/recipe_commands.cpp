@@ -1,0 +1,104 @@
+#include "browse/recipe_commands.h"
+
+#include <array>
+
+#include "core/colours.h"
+#include "core/messages.h"
+#include "platform/text/numbers.h"
+
+namespace pantrigo {
+
+namespace {
+
+bool hasSelection(Run& run) { return run.frmBrowse.lstTitles.ListIndex() >= 0; }
+
+std::string selectedTitle(Run& run) {
+  ListBox& titles = run.frmBrowse.lstTitles;
+  titles.setRow(titles.ListIndex());
+  return titles.List(titles.Row());
+}
+
+/// The texts that remove a recipe, each followed by its id; links first.
+constexpr std::array<std::string_view, 3> deleteTexts{
+    " Delete FROM RecipeHealth WHERE RecipeHealth!RecipeId = ",
+    " Delete FROM RecipeOther WHERE RecipeOther!RecipeId = ",
+    " Delete FROM Recipe WHERE Recipe!RecipeId = ",
+};
+
+void deleteRows(Run& run, const std::string& recipeId) {
+  for (const std::string_view text : deleteTexts) {
+    run.GLOBAL.gSqlText = std::string(text) + recipeId;
+    run.GLOBAL.gDatabase.Execute(run.GLOBAL.gSqlText);
+  }
+}
+
+void removeSelectedRow(Run& run) {
+  ListBox& titles = run.frmBrowse.lstTitles;
+  run.GLOBAL.gListIndex = titles.ListIndex();
+  titles.RemoveItem(titles.ListIndex());
+  const int remaining = titles.ListCount();
+  run.frmBrowse.fmeList.setCaption(plainText(static_cast<long>(remaining)) + " recipe(s) displayed");
+  if (remaining == 0) return;
+  const int index = static_cast<int>(run.GLOBAL.gListIndex);
+  titles.setListIndex(index == remaining ? 0 : index);
+  run.windows.SetFocus(titles);
+}
+
+}  // namespace
+
+void subOpenBlankDetail(Run& run) {
+  run.GLOBAL.gSelectedTitle.clear();
+  run.GLOBAL.gKeepDetailOnActivate = false;
+  run.windows.Show(run.frmDetail);
+}
+
+void subOpenSelected(Run& run) {
+  if (!hasSelection(run)) {
+    subSelectRecipe(run);
+    return;
+  }
+  run.GLOBAL.gKeepDetailOnActivate = false;
+  run.GLOBAL.gSelectedTitle = selectedTitle(run);
+  run.windows.Show(run.frmDetail);
+}
+
+void subDeleteSelected(Run& run) {
+  run.frmBrowse.setMousePointer(pointerHourglass);
+  if (hasSelection(run)) {
+    run.GLOBAL.gSelectedTitle = selectedTitle(run);
+    subDeleteTitle(run);
+  } else {
+    subSelectRecipe(run);
+  }
+  run.frmBrowse.setMousePointer(pointerDefault);
+}
+
+void subDeleteTitle(Run& run) {
+  if (funConfirmDelete(run) != BoxAnswer::Yes) return;
+  Recordset& recipes = run.GLOBAL.gRecipe;
+  recipes.Index("RecipeIdxTitle");
+  recipes.Seek("=", run.GLOBAL.gSelectedTitle);
+  const std::string recipeId = recipes.Field("RecipeId").text();
+  guarded([&] { run.files.Kill(recipeId + ".BMP"); });
+  deleteRows(run, recipeId);
+  removeSelectedRow(run);
+}
+
+void subListToggleMeal(Run& run) {
+  run.frmBrowse.setMousePointer(pointerHourglass);
+  if (hasSelection(run)) {
+    Recordset& recipes = run.GLOBAL.gRecipe;
+    recipes.Index("RecipeIdxTitle");
+    recipes.Seek("=", selectedTitle(run));
+    const bool meal = !recipes.Field("Meal").truth();
+    recipes.Edit();
+    recipes.Set("Meal", meal);
+    recipes.Update();
+    run.frmBrowse.lstTitles.setColours(run.frmBrowse.lstTitles.Row(), titleRowColours(meal));
+  } else {
+    subSelectRecipe(run);
+  }
+  run.frmBrowse.setMousePointer(pointerDefault);
+}
+
+}  // namespace pantrigo

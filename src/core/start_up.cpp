@@ -1,0 +1,85 @@
+#include "core/start_up.h"
+
+#include "core/category_kinds.h"
+#include "core/colours.h"
+#include "core/layout.h"
+
+namespace pantrigo {
+
+namespace {
+
+void showSplash(Run& run) {
+  run.windows.Load(run.frmAbout);
+  run.frmAbout.cmdOK.setVisible(false);
+  run.windows.Show(run.frmAbout);
+  run.frmAbout.Refresh();
+  run.frmAbout.setMousePointer(pointerHourglass);
+}
+
+void openCategories(Run& run) {
+  for (const CategoryKind& kind : categoryKinds()) {
+    Recordset& categories = run.GLOBAL.*kind.cursor;
+    categories = run.GLOBAL.gDatabase.OpenRecordset(kind.name);
+    for (; !categories.Eof(); categories.MoveNext()) {
+      const std::string description = categories.Field("Description").text();
+      if (kind.isLinked()) {
+        (run.frmBrowse.*kind.browseList).AddItem(description);
+      } else {
+        (run.frmBrowse.*kind.browseCombo).AddItem(description);
+      }
+    }
+  }
+}
+
+void listAllTitles(Run& run) {
+  Recordset& recipes = run.GLOBAL.gRecipe;
+  ListBox& titles = run.frmBrowse.lstTitles;
+  for (; !recipes.Eof(); recipes.MoveNext()) {
+    titles.AddItem(recipes.Field("Title").text());
+    titles.setRow(titles.ListCount() - 1);
+    titles.setForeColor(titles.Row(), titleRowColours(recipes.Field("Meal").truth()).foreColor);
+  }
+}
+
+void openRecipes(Run& run) {
+  Global& global = run.GLOBAL;
+  global.gSystem = global.gDatabase.OpenRecordset("System");
+  global.gRecipe = global.gDatabase.OpenRecordset("Recipe");
+  global.gRecipe.Index("RecipeIdxTitle");
+  global.gRecipe.Seek(">", "");
+  if (global.gSystem.Field("ShowRecipes").truth()) listAllTitles(run);
+}
+
+}  // namespace
+
+void subOpenStore(Run& run) {
+  run.toolkit.setScreenPointer(pointerHourglass);
+  run.GLOBAL.gStartDir = run.files.currentFolder().string();
+  showSplash(run);
+  run.GLOBAL.gDatabase = Database::OpenDatabase(run.files.resolve(storeName));
+  run.windows.Load(run.frmBrowse);
+  openCategories(run);
+  openRecipes(run);
+  run.windows.Load(run.frmDetail);
+  applyToolBarLayout(run);
+  run.toolkit.setScreenPointer(pointerDefault);
+  run.frmBrowse.fmeList.setCaption(listCountCaption(run));
+  run.windows.Unload(run.frmAbout);
+  run.windows.Show(run.frmBrowse);
+}
+
+void closeStore(Run& run) {
+  Global& global = run.GLOBAL;
+  for (Recordset* recordset : {&global.gRecipe, &global.gNationality, &global.gCourse, &global.gCooking, &global.gEase,
+                               &global.gHealth, &global.gOther, &global.gUnit, &global.gRecipeHealth, &global.gRecipeOther,
+                               &global.gSystem}) {
+    guarded([&] { recordset->Close(); });
+  }
+  guarded([&] { global.gDatabase.Close(); });
+}
+
+std::string listCountCaption(const Run& run) {
+  return Format(static_cast<long>(run.frmBrowse.lstTitles.ListCount()), "#,###,##0") + " recipe(s) displayed";
+}
+
+}  // namespace pantrigo

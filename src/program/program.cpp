@@ -1,0 +1,20 @@
+#include "program/program.h"
+
+#include "core/start_up.h"
+#include "program/wiring.h"
+
+namespace pantrigo {
+
+Program::Program(Toolkit& toolkit, std::filesystem::path folder) : run_(toolkit, std::move(folder)) {
+  wireFrmBrowse(run_);
+  wireFrmDetail(run_);
+  wireSmallDialogs(run_);
+  for (Form* form : run_.forms()) disableUnwired(*form);
+  run_.loop.closing = [this] { closeStore(run_); };
+}
+
+void Program::start() {
+  run_.loop.dispatch([this] { subOpenStore(run_); });
+}
+
+}  // namespace pantrigo
