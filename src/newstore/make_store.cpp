@@ -1,0 +1,88 @@
+#include "newstore/make_store.h"
+
+#include "platform/text/letters.h"
+
+namespace pantrigo {
+
+namespace {
+
+struct Option {
+  std::string_view key;
+  Value value;
+};
+
+/// Metric measures, quarters as fractions, no centi units on volumes and weights; all recipes listed at start.
+const std::vector<Option>& shippedOptions() {
+  static const std::vector<Option> options{
+      {"Measurement", "m"},     {"PartialFractions", "4"},      {"Fractions", true},    {"UseOriginalUOM", false},
+      {"Centilitres", true},    {"Centimetres", false},         {"Centigrams", true},   {"Cup", 250},
+      {"Tablespoon", 4},        {"SettingsIngredients", false}, {"Kilojoules", true},   {"ShowRecipes", true},
+      {"ShowToolBars", true},
+  };
+  return options;
+}
+
+void openRecordsets(Global& global) {
+  for (const CategoryKind& kind : categoryKinds()) global.*kind.cursor = global.gDatabase.OpenRecordset(kind.name);
+  global.gSystem = global.gDatabase.OpenRecordset("System");
+  global.gRecipe = global.gDatabase.OpenRecordset("Recipe");
+}
+
+void loadRecipes(Global& global, const Files& files, const std::filesystem::path& exchangeFile, NewStoreResult& result) {
+  openRecordsets(global);
+  global.gDatabase.setDurability(Database::Durability::AtCheckpoint);
+  TextReader file(files, exchangeFile.string());
+  ImportEvents events;
+  events.warning = [&](const std::string& line) { result.warnings.push_back(line); };
+  const std::string pictures = std::filesystem::absolute(exchangeFile).parent_path().string();
+  ExchangeReader reader(global, files, pictures, DuplicateTitles::CreateUnique, std::move(events));
+  reader.walk(file);
+  reader.saveCounters();
+  global.gDatabase.setDurability(Database::Durability::EachUpdate);
+  result.counts = reader.counts();
+}
+
+}  // namespace
+
+void writeShippedOptions(Database& database) {
+  Recordset system = database.OpenRecordset("System");
+  system.Edit();
+  for (const Option& option : shippedOptions()) system.Set(option.key, option.value);
+  system.Update();
+  system.Close();
+}
+
+long loadUnitWords(Database& database, const Files& files, const std::filesystem::path& file) {
+  Recordset units = database.OpenRecordset("Unit");
+  TextReader lines(files, file.string());
+  long count = 0;
+  while (!lines.Eof()) {
+    const std::string line = lines.LineInput();
+    if (Trim(line).empty()) continue;
+    const std::size_t tab = line.find('\t');
+    if (tab == std::string::npos) throw RuntimeError(93, "Not a unit word: " + line);
+    units.AddNew();
+    units.Set("Type", line.substr(0, tab));
+    units.Set("Description", line.substr(tab + 1));
+    units.Update();
+    ++count;
+  }
+  units.Close();
+  return count;
+}
+
+NewStoreResult makeStore(const NewStore& task) {
+  const Files files(std::filesystem::current_path());
+  Database::createStore(task.store);
+  NewStoreResult result;
+  Global global;
+  global.gDatabase = Database::OpenDatabase(task.store);
+  global.gStartDir = std::filesystem::absolute(task.store).parent_path().string();
+  writeShippedOptions(global.gDatabase);
+  if (!task.unitWords.empty()) result.unitWords = loadUnitWords(global.gDatabase, files, task.unitWords);
+  if (!task.exchangeFile.empty()) loadRecipes(global, files, task.exchangeFile, result);
+  global.gDatabase.Close();
+  return result;
+}
+
+}  // namespace pantrigo
