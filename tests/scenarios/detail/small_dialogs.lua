@@ -1,0 +1,78 @@
+-- The oven chart and the about box.
+
+local function open()
+  store.create()
+  store.add("Recipe", { RecipeId = 1, Title = "Apple Pie" })
+  start()
+  frmBrowse.lstTitles:DblClick(0)
+end
+
+case("the chart shows its table", function()
+  open()
+  modal("frmOven", function()
+    equal(frmOven.Caption, "Oven Temperature Conversion Chart")
+    equal(frmOven.Label37.Caption, "    Centigrade            Gas           Fahrenheit")
+    local chart = { "110", "1/4", "225", "120", "1/2", "250", "140", "1", "275", "150", "2", "300", "160", "3", "325", "175", "4", "350",
+      "190", "5", "375", "200", "6", "400", "220", "7", "425", "230", "8", "450", "240", "9", "475", "260", "10", "500" }
+    for i, text in ipairs(chart) do equal(frmOven["Label" .. i].Caption, text, "Label" .. i) end
+    equal(frmOven.Label1.Left, 600)
+    equal(frmOven.Label2.Left, 2040)
+    equal(frmOven.Label3.Left, 3240)
+    equal(frmOven.Label1.Top, 600)
+    equal(frmOven.Label4.Top, 840)
+    equal(frmOven.cmdCancel.Caption, "&Cancel")
+  end)
+  frmDetail.mnuOven:Click()
+  check(not frmOven.Loaded)
+end)
+
+case("Esc closes the chart, and unsaved edits stay", function()
+  open()
+  frmDetail.txtServes:Type("9")
+  modal("frmOven", function()
+    frmOven:Key(27)
+    check(not frmOven.Visible)
+  end)
+  frmDetail.tbDetail:Press("Oven")
+  equal(frmDetail.txtServes.Text, "9")
+  equal(GLOBAL.gDetailChanged, true)
+  equal(GLOBAL.gKeepDetailOnActivate, false)
+end)
+
+case("the close mark of the chart keeps unsaved edits too", function()
+  open()
+  frmDetail.txtServes:Type("9")
+  modal("frmOven", function() frmOven:Close() end)
+  frmDetail.mnuOven:Click()
+  equal(frmDetail.txtServes.Text, "9")
+end)
+
+case("the about box over a recipe reloads it", function()
+  open()
+  frmDetail.txtServes:Type("9")
+  modal("frmAbout", function() frmAbout.cmdOK:Click() end)
+  frmDetail.mnuAbout:Click()
+  equal(frmDetail.txtServes.Text, "")
+  check(not frmAbout.Loaded)
+end)
+
+case("Enter and Esc close the about box", function()
+  open()
+  for _, key in ipairs({ 13, 27 }) do
+    modal("frmAbout", function()
+      frmAbout:Key(key)
+      check(not frmAbout.Visible)
+    end)
+    frmDetail.mnuAbout:Click()
+  end
+end)
+
+case("dialogs are centred, a third of the free height above", function()
+  screen(800, 600)
+  open()
+  modal("frmOven", function()
+    equal(frmOven.Left, (12000 - frmOven.Width) / 2)
+    equal(frmOven.Top, (9000 - frmOven.Height) / 3)
+  end)
+  frmDetail.mnuOven:Click()
+end)
