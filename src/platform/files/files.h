@@ -30,7 +30,8 @@ class Files {
   /// empty when there is none or no such folder.
   [[nodiscard]] std::string Dir(std::string_view mask) const;
 
-  /// All plain, not hidden files that match, sorted by name without regard to case.
+  /// All plain, not hidden files that match, sorted by name without regard to case. "*.*" takes every name; a mask without a
+  /// wildcard takes one file at most; an empty one takes none.
   [[nodiscard]] std::vector<std::string> matching(std::string_view mask) const;
 
   /// `Kill`: removes all files that match. Error 53 when none does, 75 when one can't be removed.

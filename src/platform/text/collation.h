@@ -9,9 +9,6 @@ namespace pantrigo {
 /// does not count, accents do, trailing blanks do not. Negative, zero or positive as `left` sorts before, with or after `right`.
 [[nodiscard]] int collate(std::string_view left, std::string_view right);
 
-/// A byte string that sorts by memcmp as `collate` does; a prefix-free key, without a trailing zero byte.
-[[nodiscard]] std::string collationKey(std::string_view text);
-
 /// A text that changes whenever the order could: stamped into the store, whose indexes are rebuilt when it differs.
 [[nodiscard]] std::string collationVersion();
 
