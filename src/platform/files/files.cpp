@@ -85,7 +85,8 @@ fs::path Files::resolve(std::string_view name) const {
 
 std::vector<std::string> Files::matching(std::string_view mask) const {
   const fs::path path = current_ / withSlashes(mask);
-  const std::u32string nameMask = decodeUtf8(LCase(path.filename().string()));
+  const std::string written = path.filename().string();
+  const std::u32string nameMask = decodeUtf8(written == "*.*" ? "*" : LCase(written));
   std::vector<std::string> names = plainFiles(path.parent_path());
   std::erase_if(names, [&](const std::string& name) { return !matches(decodeUtf8(LCase(name)), nameMask); });
   std::sort(names.begin(), names.end(), [](const std::string& left, const std::string& right) {
