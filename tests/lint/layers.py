@@ -32,8 +32,8 @@ ALLOWED: dict[str, list[str]] = {
 
 # Headers of libraries, and the folders that alone may include them.
 LIBRARIES = [
-    ("Qt", re.compile(r"^(Q[A-Z]\w*|Qt\w+/.*|qt?[a-z]+\.h)$"), ["src/desktop", "tests/desktop"]),
-    ("SQLite", re.compile(r"^sqlite3\w*\.h$"), ["src/platform/store", "tests/unit/store", "tests/support"]),
+    ("Qt", re.compile(r"^(Q[A-Z]\w*|Qt\w+/.*|qt?[a-z]+\.h)$"), ["src/desktop", "tests/desktop", "bench"]),
+    ("SQLite", re.compile(r"^sqlite3\w*\.h$"), ["src/platform/store", "tests/unit/store", "tests/support", "bench"]),
     ("ICU", re.compile(r"^unicode/"), ["src/platform/text"]),
     ("Lua", re.compile(r"^(lua\w*|lauxlib|lualib)\.(h|hpp)$"), ["tests/support"]),
     ("GoogleTest", re.compile(r"^g(test|mock)/"), ["tests"]),
