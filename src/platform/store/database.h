@@ -17,18 +17,19 @@ class Database {
   /// A database that was never opened: every operation is error 3420.
   Database();
 
-  /// Opens the file. Errors: 3024 when it is missing, 3343 when it is no store or empty, 3078 when a table is missing, 3045
-  /// when another process has it open, 3051 when it can't be read. A read-only file or folder opens, and its first write is
-  /// error 3027. Nothing about the file is changed before its signature, its length and its tables were checked. Counters
-  /// of `System` below the highest id of their table are raised (not in a read-only store), see `raiseCounters`.
+  /// Opens the file. Errors: 3024 when it is missing, 3343 when it is no store or empty, 3078 when a table is missing,
+  /// 3045 when another process has it open, 3051 when it can't be read. A read-only file or folder opens, and its first
+  /// write is error 3027. Nothing about the file is changed before its signature, its length and its tables were
+  /// checked.
   [[nodiscard]] static Database OpenDatabase(const std::filesystem::path& file);
 
-  /// Makes a new store file with all tables, indexes and one `System` row (every field as a new row has it, counters 0), and
-  /// closes it. Error 75 when the file exists already or can't be made.
+  /// Makes a new store file with all tables, indexes and one `System` row (every field as a new row has it, counters
+  /// 0), and closes it. Error 75 when the file exists already or can't be made.
   static void createStore(const std::filesystem::path& file);
 
   /// Opens a cursor: on a table when the text is a table's name, else on the result of an SQL text. Errors: 3078 for an
-  /// unknown table, 3075 for an SQL text that is not understood, 93 for an invalid `like` pattern.
+  /// unknown table, 3075 for an SQL text that is not understood, 93 for an invalid `like` pattern. Opening `System`
+  /// first raises its counters as `raiseCounters` does, so that an import that broke off locks no id.
   [[nodiscard]] Recordset OpenRecordset(std::string_view source);
 
   /// Runs a " Delete FROM ..." text. Durable when it returns. Errors: 3075, 3027.
@@ -40,7 +41,8 @@ class Database {
 
   [[nodiscard]] bool isOpen() const;
 
-  /// Raises each counter of `System` that lies below the highest id of its table to that id.
+  /// Raises each counter of `System` that lies below the highest id of its table to that id. Does nothing in a
+  /// read-only store.
   void raiseCounters();
 
   /// During imports and list-wide loops updates are made durable together at the loop's end; this switches between
@@ -51,6 +53,8 @@ class Database {
   struct State;
 
  private:
+  friend class StoreAccess;
+
   std::shared_ptr<State> state_;
 };
 

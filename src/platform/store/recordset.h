@@ -29,15 +29,15 @@ class Cursor {
   [[nodiscard]] virtual long recordCount() = 0;
 };
 
-/// A cursor of the store, under the operations that the logic uses. Copies share one cursor. One that was never opened, or
-/// was closed, answers every operation with error 3420.
+/// A cursor of the store, under the operations that the logic uses. Copies share one cursor. One that was never opened,
+/// or was closed, answers every operation with error 3420.
 class Recordset {
  public:
   Recordset() = default;
   explicit Recordset(std::shared_ptr<Cursor> cursor) : cursor_(std::move(cursor)) {}
 
-  /// Selects a named index for `Seek` and the order of `MoveNext`; the position is undefined until the next `Seek`. Error
-  /// 3015 for an unknown name.
+  /// Selects a named index for `Seek` and the order of `MoveNext`; the position is undefined until the next `Seek`.
+  /// Error 3015 for an unknown name.
   void Index(std::string_view name) { cursor().setIndex(name); }
 
   /// Positions on the first row in index order that satisfies the comparison ("=", ">" or ">="). One value a key field.
@@ -55,19 +55,21 @@ class Recordset {
   void MoveNext() { cursor().moveNext(); }
   void MoveFirst() { cursor().moveFirst(); }
 
-  /// Reads a field of the current row, or of the row being added or edited; the reference holds until the cursor is next
-  /// used. Errors: 3021 without a current row, 3167 on a deleted row, 3265 for an unknown field.
+  /// Reads a field of the current row, or of the row being added or edited; the reference holds until the cursor is
+  /// next used. Errors: 3021 without a current row, 3167 on a deleted row, 3265 for an unknown field.
   [[nodiscard]] const Value& Field(std::string_view name) const { return cursor().field(name); }
 
   /// Writes a field of the row being added or edited, converted to the field's type. Errors: 3020 without `AddNew` or
-  /// `Edit`, 3421 for a text that does not convert, 3163 for a text that is too long, 3265, 6 out of a long integer's range.
+  /// `Edit`, 3421 for a text that does not convert, 3163 for a text that is too long, 3265, 6 out of a long integer's
+  /// range.
   void Set(std::string_view name, const Value& value) { cursor().setField(name, value); }
 
   /// Starts a new row; the current row stays current after `Update`.
   void AddNew() { cursor().addNew(); }
   /// Starts a change of the current row. Error 3021 without one.
   void Edit() { cursor().edit(); }
-  /// Writes the new or changed row; durable when it returns. Errors: 3020, 3022 for a duplicate key, 3026 disk full, 3027.
+  /// Writes the new or changed row; durable when it returns. Errors: 3020, 3022 for a duplicate key, 3026 disk full,
+  /// 3027.
   void Update() { cursor().update(); }
   /// Removes the current row, which stays current but dead until the next move.
   void Delete() { cursor().remove(); }

@@ -31,8 +31,8 @@ class Value {
   /// The value joined into a text: Null gives the empty text, Yes/No "True" or "False", a number its plain form.
   [[nodiscard]] std::string text() const;
 
-  /// The value as a number: Yes/No is -1 or 0, a text goes by the whole-text conversion. Error 94 for Null, 13 for a text
-  /// that is no number.
+  /// The value as a number: Yes/No is -1 or 0, a text goes by the whole-text conversion. Error 94 for Null, 13 for a
+  /// text that is no number.
   [[nodiscard]] double number() const;
 
   /// `number` as a whole number (halves to even). Errors of `number`, and 6 out of the long integer's range.

@@ -1,0 +1,43 @@
+#pragma once
+
+#include <string_view>
+#include <vector>
+
+namespace pantrigo {
+
+/// A pattern of the store's `like`: "*" stands for any run of characters, "?" for one character, "#" for one digit,
+/// "[list]" for one character of the list and "[!list]" for one outside it, with ranges such as a-z. "%" and "_" are
+/// plain characters. The whole text has to fit. Letter case does not count, accents do.
+class LikePattern {
+ public:
+  /// Error 93 for an unclosed "[" and for a range that runs backwards.
+  explicit LikePattern(std::string_view pattern);
+
+  [[nodiscard]] bool matches(std::string_view text) const;
+
+ private:
+  struct Range {
+    char32_t first;
+    char32_t last;
+  };
+
+  /// What one character of the text has to be.
+  struct Element {
+    enum class Kind { Character, Any, Digit, OneOf, NoneOf };
+    Kind kind;
+    char32_t character = 0;
+    std::vector<Range> ranges = {};
+  };
+
+  using Piece = std::vector<Element>;
+
+  void addList(std::u32string_view list);
+  static bool fits(const Element& element, char32_t character);
+  static bool fitsAt(const Piece& piece, std::u32string_view text, std::size_t place);
+  static std::size_t find(const Piece& piece, std::u32string_view text, std::size_t from, std::size_t end);
+
+  /// The parts between the "*"; a pattern without any has one.
+  std::vector<Piece> pieces_;
+};
+
+}  // namespace pantrigo

@@ -1,0 +1,46 @@
+#include "platform/store/sql_functions.h"
+
+#include <sqlite3.h>
+
+#include <new>
+#include <string_view>
+
+#include "platform/store/like.h"
+#include "platform/store/store_errors.h"
+#include "platform/text/collation.h"
+
+namespace pantrigo {
+
+namespace {
+
+std::string_view textOf(sqlite3_value* value) {
+  const auto* bytes = reinterpret_cast<const char*>(sqlite3_value_text(value));
+  if (bytes == nullptr) return {};
+  return {bytes, static_cast<std::size_t>(sqlite3_value_bytes(value))};
+}
+
+int compareTexts(void*, int leftLength, const void* left, int rightLength, const void* right) noexcept {
+  return collate({static_cast<const char*>(left), static_cast<std::size_t>(leftLength)},
+                 {static_cast<const char*>(right), static_cast<std::size_t>(rightLength)});
+}
+
+void matchesPattern(sqlite3_context* context, int, sqlite3_value** arguments) noexcept {
+  const auto* pattern = static_cast<const LikePattern*>(sqlite3_value_pointer(arguments[0], likePatternKind));
+  if (pattern == nullptr || sqlite3_value_type(arguments[1]) == SQLITE_NULL) return sqlite3_result_null(context);
+  // An exception must not pass through the engine's own frames.
+  try {
+    sqlite3_result_int(context, pattern->matches(textOf(arguments[1])) ? 1 : 0);
+  } catch (const std::bad_alloc&) {
+    sqlite3_result_error_nomem(context);
+  }
+}
+
+}  // namespace
+
+void registerSqlFunctions(sqlite3* connection) {
+  checkResult(sqlite3_create_collation_v2(connection, collationName, SQLITE_UTF8, nullptr, compareTexts, nullptr));
+  checkResult(sqlite3_create_function_v2(connection, matchesFunctionName, 2, SQLITE_UTF8 | SQLITE_DETERMINISTIC,
+                                         nullptr, matchesPattern, nullptr, nullptr, nullptr));
+}
+
+}  // namespace pantrigo
