@@ -43,6 +43,26 @@ bool matches(std::u32string_view name, std::u32string_view mask) {
   return std::all_of(mask.begin() + static_cast<std::ptrdiff_t>(maskPlace), mask.end(), [](char32_t rest) { return rest == U'*'; });
 }
 
+/// The entry of the folder with that name without regard to case, the least by code where there are several; an empty path
+/// when there is none.
+fs::path entryWithoutCase(const fs::path& folder, const std::string& name) {
+  const std::string sought = LCase(name);
+  fs::path found;
+  std::error_code failed;
+  for (fs::directory_iterator entry(folder, failed), end; !failed && entry != end; entry.increment(failed)) {
+    const fs::path candidate = entry->path().filename();
+    if (LCase(candidate.string()) == sought && (found.empty() || candidate < found)) found = candidate;
+  }
+  return found;
+}
+
+/// Whether the user may write to the file: one marked as read-only is not removed, although its folder would allow it.
+bool isWritable(const fs::path& file) {
+  std::error_code failed;
+  const fs::perms rights = fs::status(file, failed).permissions();
+  return !failed && (rights & fs::perms::owner_write) != fs::perms::none;
+}
+
 /// The plain files of a folder that are not hidden; none when there is no such folder.
 std::vector<std::string> plainFiles(const fs::path& folder) {
   std::vector<std::string> names;
@@ -69,25 +89,34 @@ void Files::changeFolder(std::string_view folder) {
   const fs::path path = resolve(folder);
   std::error_code failed;
   if (!fs::is_directory(path, failed)) throw RuntimeError(76);
-  current_ = path;
+  // A name that ended in a separator leaves an empty last part behind.
+  current_ = path.has_filename() ? path : path.parent_path();
 }
 
 fs::path Files::resolve(std::string_view name) const {
   const fs::path path = (current_ / withSlashes(name)).lexically_normal();
   std::error_code failed;
   if (fs::exists(path, failed)) return path;
-  const std::string sought = LCase(path.filename().string());
-  for (fs::directory_iterator entry(path.parent_path(), failed), end; !failed && entry != end; entry.increment(failed)) {
-    if (LCase(entry->path().filename().string()) == sought) return entry->path();
+  fs::path found = path.root_path();
+  for (const fs::path& part : path.relative_path()) {
+    const bool exact = part.empty() || fs::exists(found / part, failed);
+    const fs::path entry = exact ? part : entryWithoutCase(found, part.string());
+    found /= !exact && entry.empty() ? part : entry;
   }
-  return path;
+  return found;
 }
 
 std::vector<std::string> Files::matching(std::string_view mask) const {
-  const fs::path path = current_ / withSlashes(mask);
+  const fs::path path = withSlashes(mask);
   const std::string written = path.filename().string();
+  if (written.find_first_of("*?") == std::string::npos) {
+    const fs::path file = resolve(mask);
+    std::error_code failed;
+    if (written.empty() || file.filename().string().starts_with('.') || !fs::is_regular_file(file, failed)) return {};
+    return {file.filename().string()};
+  }
   const std::u32string nameMask = decodeUtf8(written == "*.*" ? "*" : LCase(written));
-  std::vector<std::string> names = plainFiles(path.parent_path());
+  std::vector<std::string> names = plainFiles(resolve(path.parent_path().string()));
   std::erase_if(names, [&](const std::string& name) { return !matches(decodeUtf8(LCase(name)), nameMask); });
   std::sort(names.begin(), names.end(), [](const std::string& left, const std::string& right) {
     const std::string leftName = LCase(left);
@@ -108,10 +137,10 @@ std::string Files::Dir(std::string_view mask) const {
 void Files::Kill(std::string_view mask) const {
   const std::vector<std::string> names = matching(mask);
   if (names.empty()) throw RuntimeError(53);
-  const fs::path folder = (current_ / withSlashes(mask)).parent_path();
+  const fs::path folder = resolve(fs::path(withSlashes(mask)).parent_path().string());
   for (const std::string& name : names) {
     std::error_code failed;
-    if (!fs::remove(folder / name, failed)) throw RuntimeError(75);
+    if (!isWritable(folder / name) || !fs::remove(folder / name, failed)) throw RuntimeError(75);
   }
 }
 
@@ -119,9 +148,11 @@ void Files::FileCopy(std::string_view source, std::string_view target) const {
   const fs::path from = resolve(source);
   const fs::path to = resolve(target);
   std::error_code failed;
-  if (!fs::is_regular_file(from, failed)) throw RuntimeError(53);
+  if (!fs::exists(from, failed)) throw RuntimeError(fs::is_directory(from.parent_path(), failed) ? 53 : 76);
   if (!fs::is_directory(to.parent_path(), failed)) throw RuntimeError(76);
   if (!fs::copy_file(from, to, fs::copy_options::overwrite_existing, failed)) throw RuntimeError(75);
+  // The copy of a file from a read-only medium is the user's own and may be removed again.
+  fs::permissions(to, fs::perms::owner_write, fs::perm_options::add, failed);
 }
 
 std::string Files::readBytes(std::string_view name) const {

@@ -47,6 +47,7 @@ void TextWriter::PrintLine(std::string_view text) {
 }
 
 void TextWriter::Close() {
+  if (!stream_.is_open()) return;
   stream_.close();
   if (stream_.fail()) throw RuntimeError(61);
 }

@@ -40,6 +40,7 @@ class TextWriter {
   /// Writes the text and CR LF. Error 61 when the disk is full.
   void PrintLine(std::string_view text);
 
+  /// Writes what is left and closes; once closed, does nothing. Error 61 when the disk is full.
   void Close();
 
  private:

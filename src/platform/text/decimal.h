@@ -17,7 +17,7 @@ struct Decimal {
   [[nodiscard]] bool isZero() const { return digits == "0"; }
 };
 
-/// Rounds a finite number to that many significant digits.
+/// Rounds a finite number to that many significant digits (1 to 20), halves away from zero.
 [[nodiscard]] Decimal toDecimal(double value, int significantDigits);
 
 }  // namespace pantrigo

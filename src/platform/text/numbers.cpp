@@ -1,5 +1,6 @@
 #include "platform/text/numbers.h"
 
+#include <algorithm>
 #include <array>
 #include <charconv>
 #include <cmath>
@@ -10,20 +11,44 @@
 
 namespace pantrigo {
 
+namespace {
+
+/// Digits that are taken from the binary value before the decimal rounding: enough to tell a half from its neighbours, so
+/// that rounding twice does no harm.
+constexpr int exactDigits = 21;
+
+/// Keeps the first digits, halves away from zero, and drops trailing zeros.
+void roundDigits(Decimal& decimal, std::size_t keep) {
+  const bool up = decimal.digits[keep] >= '5';
+  decimal.digits.resize(keep);
+  if (up) {
+    decimal.digits.erase(decimal.digits.find_last_not_of('9') + 1);
+    if (decimal.digits.empty()) {
+      decimal.digits = "1";
+      ++decimal.exponent;
+    } else {
+      ++decimal.digits.back();
+    }
+  }
+  decimal.digits.erase(decimal.digits.find_last_not_of('0') + 1);
+}
+
+}  // namespace
+
 Decimal toDecimal(double value, int significantDigits) {
   Decimal decimal;
   if (value == 0 || !std::isfinite(value)) return decimal;
   decimal.negative = value < 0;
   std::array<char, 64> buffer{};
   const auto written = std::to_chars(buffer.data(), buffer.data() + buffer.size(), std::fabs(value), std::chars_format::scientific,
-                                     significantDigits - 1);
+                                     exactDigits - 1);
   const std::string_view text(buffer.data(), static_cast<std::size_t>(written.ptr - buffer.data()));
   const std::size_t mark = text.find('e');
   decimal.digits = text.substr(0, 1);
-  if (mark > 2) decimal.digits += text.substr(2, mark - 2);
-  decimal.digits.erase(decimal.digits.find_last_not_of('0') + 1);
+  decimal.digits += text.substr(2, mark - 2);
   const std::string_view exponent = text.substr(text[mark + 1] == '+' ? mark + 2 : mark + 1);
   std::from_chars(exponent.data(), exponent.data() + exponent.size(), decimal.exponent);
+  roundDigits(decimal, static_cast<std::size_t>(significantDigits));
   return decimal;
 }
 
@@ -69,13 +94,31 @@ std::string strForm(std::string text) {
   return (negative ? "-" : " ") + text;
 }
 
+/// Whether a number text that no double holds is too large, not too small: by the power of ten of its first digit that is
+/// not 0.
+bool isTooLarge(std::string_view text) {
+  const std::size_t mark = text.find('e');
+  const std::string_view mantissa = text.substr(0, mark);
+  const std::size_t first = mantissa.find_first_of("123456789");
+  if (first == std::string_view::npos) return false;
+  auto power = static_cast<long long>(std::min(mantissa.find('.'), mantissa.size())) - static_cast<long long>(first);
+  if (mark != std::string_view::npos) {
+    const std::string_view digits = text.substr(text[mark + 1] == '+' ? mark + 2 : mark + 1);
+    long long exponent = 0;
+    const auto read = std::from_chars(digits.data(), digits.data() + digits.size(), exponent);
+    if (read.ec == std::errc::result_out_of_range) return !digits.starts_with('-');
+    power += exponent;
+  }
+  return power > 0;
+}
+
 double fromText(const std::string& text) {
   double value = 0;
   const char* start = text.data() + (text.starts_with('+') ? 1 : 0);
   const auto read = std::from_chars(start, text.data() + text.size(), value);
   if (read.ec != std::errc::result_out_of_range) return value;
-  // An exponent below zero is too small for a double, any other too large.
-  return text.find("e-") != std::string::npos ? 0 : std::numeric_limits<double>::infinity();
+  if (!isTooLarge(text)) return 0;
+  return text.starts_with('-') ? -std::numeric_limits<double>::infinity() : std::numeric_limits<double>::infinity();
 }
 
 int digitOfBase(char character, int base) {
@@ -158,6 +201,25 @@ class Scanner {
   std::size_t place_ = 0;
 };
 
+std::string_view withoutOuterWhiteSpace(std::string_view text) {
+  constexpr std::string_view noBreakBlank = "\xC2\xA0";
+  const auto isWhite = [](char character) { return std::string_view(" \t\r\n").find(character) != std::string_view::npos; };
+  while (!text.empty()) {
+    if (isWhite(text.front())) {
+      text.remove_prefix(1);
+    } else if (isWhite(text.back())) {
+      text.remove_suffix(1);
+    } else if (text.starts_with(noBreakBlank)) {
+      text.remove_prefix(noBreakBlank.size());
+    } else if (text.ends_with(noBreakBlank)) {
+      text.remove_suffix(noBreakBlank.size());
+    } else {
+      break;
+    }
+  }
+  return text;
+}
+
 /// The marks around the digits: each stands at most once.
 struct Marks {
   bool sign = false;
@@ -229,7 +291,7 @@ double Val(std::string_view text) {
 std::optional<double> toNumber(std::string_view text) {
   Scanner scanner(text);
   scanner.skipWhiteSpace();
-  if (scanner.peek() == '&') return readBased(Trim(text), true);
+  if (scanner.peek() == '&') return readBased(withoutOuterWhiteSpace(text), true);
   Marks marks;
   std::string number;
   if (!readLeadingMarks(scanner, marks) || !scanner.readMantissa(number)) return std::nullopt;

@@ -105,8 +105,18 @@ std::string Mid(std::string_view text, long start) {
 
 long InStr(std::string_view text, std::string_view part) {
   if (text.empty()) return 0;
-  const std::size_t place = text.find(part);
-  return place == std::string_view::npos ? 0 : static_cast<long>(Len(text.substr(0, place))) + 1;
+  if (part.empty()) return 1;
+  std::size_t place = 0;
+  long position = 1;
+  for (std::size_t hit = text.find(part); hit != std::string_view::npos; hit = text.find(part, hit + 1)) {
+    for (; place < hit; ++position) place += stepLength(text, place);
+    // A stray byte also matches inside a character: only a hit that begins and ends between characters counts.
+    const std::size_t partEnd = hit + part.size();
+    std::size_t end = place;
+    while (end < partEnd) end += stepLength(text, end);
+    if (place == hit && end == partEnd) return position;
+  }
+  return 0;
 }
 
 std::vector<std::string> characters(std::string_view text) {

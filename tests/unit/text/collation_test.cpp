@@ -1,0 +1,185 @@
+#include "platform/text/collation.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cstdlib>
+#include <random>
+#include <string>
+#include <thread>
+#include <vector>
+
+#include "platform/text/utf8.h"
+
+namespace pantrigo {
+namespace {
+
+int sign(int value) {
+  return (value > 0) - (value < 0);
+}
+
+/// The order by the full rules: a letter beyond ASCII in front of both texts keeps them off the quick way.
+int byRules(const std::string& left, const std::string& right) {
+  return sign(collate("é" + left, "é" + right));
+}
+
+void expectOrder(const std::string& left, const std::string& right, int expected) {
+  EXPECT_EQ(sign(collate(left, right)), expected) << left << " | " << right;
+  EXPECT_EQ(sign(collate(right, left)), -expected) << right << " | " << left;
+}
+
+TEST(Collation, TakesTextsAsEqual) {
+  const std::pair<std::string, std::string> pairs[] = {
+      {"", ""},    {"apple pie", "Apple Pie"}, {"CRÈME", "crème"}, {"soup  ", "soup"},
+      {"", "   "}, {"cafe\xCC\x81", "café"},   {"Soup ", "soup"},
+  };
+  for (const auto& [left, right] : pairs) expectOrder(left, right, 0);
+}
+
+TEST(Collation, KeepsTheOrder) {
+  const std::vector<std::string> rising = {
+      "",      "1 pot", "10 pots",       "2 pots",        "apple",  "Apple pie", "apples",
+      "Creme", "Crème", "Creme caramel", "Crème fraîche", "cremes", "Zucchini",
+  };
+  for (std::size_t i = 0; i < rising.size(); ++i) {
+    for (std::size_t j = i + 1; j < rising.size(); ++j) expectOrder(rising[i], rising[j], -1);
+  }
+}
+
+TEST(Collation, TakesHyphenAndApostropheAsOrdinaryCharacters) {
+  const std::vector<std::string> rising = {"W", "W-", "W-B", "WB"};
+  for (std::size_t i = 0; i + 1 < rising.size(); ++i) expectOrder(rising[i], rising[i + 1], -1);
+  expectOrder("co-op", "coop", -1);
+  expectOrder("coat", "co-op", 1);
+  expectOrder("d'oh", "doh", -1);
+}
+
+TEST(Collation, SpellsSharpSAndLigaturesOut) {
+  expectOrder("Griesr", "Grieß", -1);
+  expectOrder("Grieß", "Griest", -1);
+  expectOrder("Cad", "Cæ", -1);
+  expectOrder("Cæ", "Caf", -1);
+}
+
+TEST(Collation, SortsBlanksAndMarksBeforeDigitsBeforeLetters) {
+  for (const char mark : std::string(" !\"#$%&'()*+,-./:;<=>?@[\\]^_`{|}~")) {
+    const std::string text = std::string(1, mark) + "x";
+    expectOrder(text, "0", -1);
+    expectOrder(text, "a", -1);
+  }
+  expectOrder("9", "a", -1);
+}
+
+TEST(Collation, KeepsTextsThatDifferInControlCharactersApart) {
+  const std::vector<std::string> rising = {"ab",
+                                           "a\x01"
+                                           "b",
+                                           "a\x01"
+                                           "b\x01",
+                                           "a\x02"
+                                           "b",
+                                           "ab\x01",
+                                           "abc"};
+  for (std::size_t i = 0; i < rising.size(); ++i) {
+    for (std::size_t j = i + 1; j < rising.size(); ++j) expectOrder(rising[i], rising[j], -1);
+  }
+  expectOrder(
+      "A\x01"
+      "B",
+      "a\x01"
+      "b",
+      0);
+  expectOrder("ab\xC2\x81", "ab", 1);
+  expectOrder("ab\xC2\xAD", "ab", 1);
+  expectOrder(std::string("ab\0", 3), "ab", 1);
+}
+
+TEST(Collation, KeepsStrayBytesApart) {
+  EXPECT_NE(collate("caf\xE9", "caf\xE8"), 0);
+  EXPECT_NE(collate("caf\xE9", "café"), 0);
+}
+
+/// Random texts from few characters, so that common beginnings and equal texts are frequent.
+void expectAgreement(const std::vector<std::string>& alphabet, int pairs) {
+  std::mt19937 random(1999);
+  std::uniform_int_distribution<std::size_t> pick(0, alphabet.size() - 1);
+  std::uniform_int_distribution<int> length(0, 6);
+  const auto text = [&] {
+    std::string result;
+    for (int i = length(random); i > 0; --i) result += alphabet[pick(random)];
+    return result;
+  };
+  for (int i = 0; i < pairs; ++i) {
+    const std::string left = text();
+    std::string right = text();
+    if (i % 3 == 0) right = left + right;
+    ASSERT_EQ(sign(collate(left, right)), byRules(left, right)) << left << " | " << right;
+    ASSERT_EQ(sign(collate(right, left)), byRules(right, left)) << left << " | " << right;
+  }
+}
+
+TEST(Collation, QuickWayAgreesWithTheCollatorOnAscii) {
+  std::vector<std::string> all;
+  for (int code = 0; code < 128; ++code) all.emplace_back(1, static_cast<char>(code));
+  expectAgreement(all, 200'000);
+  expectAgreement({"a", "A", "b", " ", "-", "1"}, 100'000);
+  for (const std::string& left : all) {
+    for (const std::string& right : all) ASSERT_EQ(sign(collate(left, right)), byRules(left, right));
+  }
+}
+
+TEST(Collation, SortsMixedTextsTheSameFromAnyOrder) {
+  const std::vector<std::string> alphabet = {"a",        "A",        "l", "e", " ",    "-", "é",
+                                             "\xCC\x81", "\xC2\xB7", "ß", "æ", "\x01", "½", "\xF0\x9F\x8D\x8E"};
+  std::mt19937 random(31);
+  std::uniform_int_distribution<std::size_t> pick(0, alphabet.size() - 1);
+  std::vector<std::string> texts;
+  for (int i = 0; i < 300; ++i) {
+    std::string text;
+    for (int j = i % 5; j >= 0; --j) text += alphabet[pick(random)];
+    texts.push_back(text);
+  }
+  std::sort(texts.begin(), texts.end(), [](const auto& left, const auto& right) { return collate(left, right) < 0; });
+  for (std::size_t i = 0; i < texts.size(); ++i) {
+    for (std::size_t j = i; j < texts.size(); ++j) {
+      ASSERT_LE(collate(texts[i], texts[j]), 0) << texts[i] << " | " << texts[j];
+      ASSERT_EQ(sign(collate(texts[i], texts[j])), -sign(collate(texts[j], texts[i]))) << texts[i] << " | " << texts[j];
+    }
+  }
+}
+
+TEST(Collation, DoesNotFollowTheMachine) {
+  // Swedish sorts these behind "z", German and the root order do not.
+  const char* const before = std::getenv("LC_ALL");
+  const std::string kept = before == nullptr ? "" : before;
+  setenv("LC_ALL", "sv_SE.UTF-8", 1);
+  EXPECT_LT(collate("äpple", "banan"), 0);
+  if (before == nullptr) {
+    unsetenv("LC_ALL");
+  } else {
+    setenv("LC_ALL", kept.c_str(), 1);
+  }
+}
+
+TEST(Collation, IsTheSameFromEveryThread) {
+  std::vector<std::thread> threads;
+  std::vector<int> wrong(4, 0);
+  for (std::size_t i = 0; i < wrong.size(); ++i) {
+    threads.emplace_back([&wrong, i] {
+      for (int round = 0; round < 2000; ++round) {
+        if (collate("Crème", "Creme") <= 0 || collate("Crème", "crème ") != 0) ++wrong[i];
+      }
+    });
+  }
+  for (std::thread& thread : threads) thread.join();
+  EXPECT_EQ(wrong, std::vector<int>(4, 0));
+}
+
+TEST(Collation, HasAVersion) {
+  const std::string version = collationVersion();
+  EXPECT_EQ(version, collationVersion());
+  EXPECT_GE(Len(version), 3U);
+}
+
+}  // namespace
+}  // namespace pantrigo
