@@ -2,6 +2,8 @@
 
 #include <unicode/uchar.h>
 
+#include <algorithm>
+
 #include "platform/text/utf8.h"
 
 namespace pantrigo {
@@ -10,6 +12,11 @@ namespace {
 
 template <class Mapping>
 std::string mapped(std::string_view text, Mapping mapping) {
+  if (std::all_of(text.begin(), text.end(), [](char byte) { return static_cast<unsigned char>(byte) < 0x80; })) {
+    std::string plain(text);
+    for (char& character : plain) character = static_cast<char>(mapping(static_cast<unsigned char>(character)));
+    return plain;
+  }
   std::u32string points = decodeUtf8(text);
   for (char32_t& point : points) point = mapping(point);
   return encodeUtf8(points);

@@ -314,8 +314,18 @@ bool isQueryNumber(std::string_view text) {
   return scanner.atEnd() && fromText(number) <= static_cast<double>(std::numeric_limits<float>::max());
 }
 
-std::string plainText(float value) { return plain(value, singleDigits); }
-std::string plainText(double value) { return plain(value, doubleDigits); }
+std::string plainText(float value) {
+  // Most amounts are whole numbers, which need no rounding.
+  constexpr float limit = 1e7F;
+  if (std::fabs(value) < limit && std::trunc(value) == value) return plainText(static_cast<long>(value));
+  return plain(value, singleDigits);
+}
+
+std::string plainText(double value) {
+  constexpr double limit = 1e15;
+  if (std::fabs(value) < limit && std::trunc(value) == value) return plainText(static_cast<long>(value));
+  return plain(value, doubleDigits);
+}
 
 std::string plainText(long value) {
   std::array<char, 24> buffer{};
