@@ -26,16 +26,22 @@ class Example(NamedTuple):
     places: list[str]
 
 
+def _versioned_paths() -> list[str] | None:
+    """The files under version control and those that are to be; none where git or its folder is missing."""
+    try:
+        command = ["git", "-C", str(ROOT), "ls-files", "-z", "--cached", "--others", "--exclude-standard"]
+        listing = subprocess.run(command, capture_output=True, check=True)
+    except (OSError, subprocess.CalledProcessError):
+        return None
+    return [name for name in listing.stdout.decode().split("\0") if name]
+
+
 def project_files() -> dict[str, str]:
-    """All text files of the project: those under version control and those that are to be; all files where there is no version control."""
-    listing = subprocess.run(
-        ["git", "-C", str(ROOT), "ls-files", "-z", "--cached", "--others", "--exclude-standard"], capture_output=True, check=False
-    )
-    if listing.returncode == 0:
-        paths = [name for name in listing.stdout.decode().split("\0") if name]
-    else:
-        paths = [str(path.relative_to(ROOT)) for path in ROOT.rglob("*")]
-        paths = [path for path in paths if path.split("/")[0] not in (".git", "build", "cookbook")]
+    """All text files of the project."""
+    paths = _versioned_paths()
+    if paths is None:
+        found = [path.relative_to(ROOT) for path in ROOT.rglob("*")]
+        paths = [path.as_posix() for path in found if not {".git", "build", "cookbook", "__pycache__"} & set(path.parts)]
     files = {}
     for path in sorted(paths):
         place = ROOT / path
