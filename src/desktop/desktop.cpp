@@ -1,0 +1,22 @@
+#include "desktop/desktop.h"
+
+#include <QCoreApplication>
+
+namespace pantrigo {
+
+Desktop::Desktop(std::filesystem::path folder) : program_(toolkit_, std::move(folder)) {
+  toolkit_.attach(program_.run().windows);
+  toolkit_.whenEnded = [this] { QCoreApplication::exit(program_.exitStatus()); };
+}
+
+int Desktop::run() {
+  if (program_.ended()) return program_.exitStatus();
+  QCoreApplication::exec();
+  return program_.exitStatus();
+}
+
+void Desktop::close() {
+  toolkit_.dispatch([this](Windows& windows) { windows.userCloses(program_.run().frmBrowse); });
+}
+
+}  // namespace pantrigo

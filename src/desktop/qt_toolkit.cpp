@@ -1,0 +1,229 @@
+#include "desktop/qt_toolkit.h"
+
+#include <QApplication>
+#include <QBuffer>
+#include <QDateTime>
+#include <QDialogButtonBox>
+#include <QImageReader>
+#include <QMessageBox>
+#include <QPrintDialog>
+#include <QPushButton>
+#include <QScreen>
+
+#include "desktop/text_conversion.h"
+#include "platform/text/errors.h"
+
+namespace pantrigo {
+
+namespace {
+
+/// How long the system may take to make a window active that it was asked to, in milliseconds.
+constexpr int activationTime = 1000;
+
+QMessageBox::Icon boxIcon(int style) {
+  // The style is the sum of an icon (16, 32, 48, 64) and, for Yes and No, 4.
+  constexpr int iconBits = 0x70;
+  switch (style & iconBits) {
+    case boxStop:
+      return QMessageBox::Critical;
+    case boxExclamation:
+      return QMessageBox::Warning;
+    case boxInformation:
+      return QMessageBox::Information;
+    default:
+      return QMessageBox::Question;
+  }
+}
+
+bool asksYesNo(int style) {
+  constexpr int yesNo = 4;
+  return (style & yesNo) != 0;
+}
+
+}  // namespace
+
+QtToolkit::QtToolkit() {
+  printer_.whenPrintedToFile = [this](const QString& file) { tellWhereThePrintWent(file); };
+}
+
+QtToolkit::~QtToolkit() { setScreenPointer(pointerDefault); }
+
+void QtToolkit::dispatch(const std::function<void(Windows&)>& event) {
+  windows_->loop().dispatch([&] { event(*windows_); });
+  settle();
+}
+
+void QtToolkit::settle() {
+  const EventLoop& loop = windows_->loop();
+  if (loop.ended()) {
+    for (QDialog* dialog : dialogs_) dialog->reject();
+  }
+  if (loop.busy()) return;
+  for (std::unique_ptr<FormView>& view : dropped_) view.release()->deleteLater();
+  dropped_.clear();
+  if (loop.ended() && whenEnded) whenEnded();
+}
+
+// Views.
+
+FormView* QtToolkit::view(const Form& form) const {
+  const auto found = views_.find(&form);
+  return found == views_.end() ? nullptr : found->second.get();
+}
+
+QWidget* QtToolkit::activeWindow() const {
+  const Form* active = windows_ == nullptr ? nullptr : windows_->active();
+  FormView* window = active == nullptr ? nullptr : view(*active);
+  return window != nullptr && window->isVisible() ? window : nullptr;
+}
+
+void QtToolkit::showView(Form& form, Modality modality) {
+  std::unique_ptr<FormView>& view = views_[&form];
+  ViewHost& host = *this;
+  if (view == nullptr) view = std::make_unique<FormView>(form, host);
+  view->present(modality, activeWindow());
+}
+
+void QtToolkit::hideView(Form& form) {
+  if (FormView* window = view(form)) window->hide();
+}
+
+void QtToolkit::dropView(Form& form) {
+  const auto found = views_.find(&form);
+  if (found == views_.end()) return;
+  form.setListener(nullptr);
+  dropped_.push_back(std::move(found->second));
+  views_.erase(found);
+}
+
+void QtToolkit::dropAllViews() {
+  views_.clear();
+  dropped_.clear();
+  delete help_;
+}
+
+void QtToolkit::activateView(Form& form) {
+  FormView* window = view(form);
+  if (window == nullptr) return;
+  expected_ = &form;
+  expectedSince_.start();
+  window->activate();
+}
+
+void QtToolkit::windowActivated(Form& form) {
+  const bool onTheWay = expected_ != nullptr && expected_ != &form && expectedSince_.elapsed() < activationTime;
+  if (windows_ == nullptr || onTheWay) return;
+  expected_ = nullptr;
+  const bool elsewhere = !dialogs_.empty() || windows_->active() == &form || windows_->blocked(form) || !form.Visible();
+  if (elsewhere || windows_->active() == nullptr) return;
+  dispatch([&](Windows& windows) { windows.userActivates(form); });
+}
+
+// Waiting.
+
+void QtToolkit::waitModal(Form&, const std::function<bool()>& over) {
+  ++modalWaits_;
+  while (!over()) QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+}
+
+void QtToolkit::pumpEvents() { QCoreApplication::processEvents(); }
+
+int QtToolkit::run(QDialog& dialog) {
+  const bool hourglass = screenPointerSet_;
+  setScreenPointer(pointerDefault);
+  dialogs_.push_back(&dialog);
+  const int result = dialog.exec();
+  std::erase(dialogs_, &dialog);
+  if (hourglass) setScreenPointer(pointerHourglass);
+  if (windows_ != nullptr && windows_->active() != nullptr) {
+    expected_ = windows_->active();
+    expectedSince_.start();
+  }
+  return result;
+}
+
+BoxAnswer QtToolkit::showBox(const MessageBox& box) {
+  QMessageBox dialog(activeWindow());
+  dialog.setIcon(boxIcon(box.style));
+  dialog.setWindowTitle(toQt(box.caption));
+  dialog.setTextFormat(Qt::PlainText);
+  dialog.setText(shownLines(box.text));
+  if (!asksYesNo(box.style)) {
+    dialog.setStandardButtons(QMessageBox::Ok);
+    run(dialog);
+    return BoxAnswer::OK;
+  }
+  dialog.setStandardButtons(QMessageBox::Yes | QMessageBox::No);
+  dialog.setDefaultButton(QMessageBox::Yes);
+  dialog.setEscapeButton(QMessageBox::No);
+  run(dialog);
+  return dialog.clickedButton() == dialog.button(QMessageBox::Yes) ? BoxAnswer::Yes : BoxAnswer::No;
+}
+
+// The surroundings.
+
+void QtToolkit::Beep() { QApplication::beep(); }
+
+LocalTime QtToolkit::Now() const {
+  const QDateTime now = QDateTime::currentDateTime();
+  return {now.date().year(), now.date().month(), now.date().day(), now.time().hour(), now.time().minute()};
+}
+
+ScreenArea QtToolkit::area() const { return screenArea(QGuiApplication::primaryScreen()->availableGeometry()); }
+
+ScreenSize QtToolkit::screen() const { return area().size(); }
+
+void QtToolkit::setScreenPointer(int pointer) {
+  const bool hourglass = pointer == pointerHourglass;
+  if (hourglass == screenPointerSet_) return;
+  screenPointerSet_ = hourglass;
+  if (hourglass) {
+    QApplication::setOverrideCursor(Qt::WaitCursor);
+  } else {
+    QApplication::restoreOverrideCursor();
+  }
+}
+
+void QtToolkit::showHelp(const HelpCall&) {
+  if (help_ == nullptr) {
+    auto* box = new QMessageBox(QMessageBox::Information, QStringLiteral("Help"), QStringLiteral("No help pages are installed."),
+                                QMessageBox::Ok, activeWindow());
+    box->setAttribute(Qt::WA_DeleteOnClose);
+    box->setWindowModality(Qt::NonModal);
+    help_ = box;
+  }
+  help_->show();
+  help_->raise();
+}
+
+void QtToolkit::setUpPrinter(int) {
+  QPrintDialog dialog(&printer_.device(), activeWindow());
+  dialog.setWindowTitle(QStringLiteral("Printer Setup"));
+  dialog.setOptions(QAbstractPrintDialog::PrintToFile);
+  for (QDialogButtonBox* buttons : dialog.findChildren<QDialogButtonBox*>()) {
+    if (QPushButton* print = buttons->button(QDialogButtonBox::Ok)) print->setText(QStringLiteral("&OK"));
+  }
+  run(dialog);
+}
+
+void QtToolkit::tellWhereThePrintWent(const QString& file) {
+  auto* box = new QMessageBox(QMessageBox::Information, QStringLiteral("Print"),
+                              QStringLiteral("No printer is installed. The print is in the file\n%1").arg(file), QMessageBox::Ok, activeWindow());
+  box->setTextFormat(Qt::PlainText);
+  box->setAttribute(Qt::WA_DeleteOnClose);
+  box->setWindowModality(Qt::NonModal);
+  box->show();
+}
+
+PictureFile QtToolkit::LoadPicture(const Files& files, std::string_view name) {
+  constexpr int invalidPicture = 481;
+  auto bytes = std::make_shared<const std::string>(files.readBytes(name));
+  QByteArray content = QByteArray::fromRawData(bytes->data(), static_cast<qsizetype>(bytes->size()));
+  QBuffer buffer(&content);
+  QImageReader reader(&buffer, "bmp");
+  const QImage image = reader.read();
+  if (image.isNull()) throw RuntimeError(invalidPicture);
+  return {std::string(name), image.width(), image.height(), bytes};
+}
+
+}  // namespace pantrigo

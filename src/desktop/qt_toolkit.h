@@ -1,0 +1,82 @@
+#pragma once
+
+#include <QElapsedTimer>
+#include <QPointer>
+#include <functional>
+#include <map>
+#include <memory>
+#include <vector>
+
+#include "desktop/form_view.h"
+#include "desktop/qt_printer.h"
+#include "platform/controls/toolkit.h"
+
+class QDialog;
+
+namespace pantrigo {
+
+/// The toolkit over real windows: one view a form, message boxes and system dialogs, the event loop, the printer. All that a person does
+/// enters the program through `dispatch`.
+class QtToolkit : public Toolkit, private ViewHost {
+ public:
+  QtToolkit();
+  ~QtToolkit() override;
+
+  /// Names the windows of the run that the events of the views go to. To be called once, before anything is shown.
+  void attach(Windows& windows) { windows_ = &windows; }
+
+  /// Called when the run has ended and nothing of it is running any more.
+  std::function<void()> whenEnded;
+
+  /// One event of a person's, or of the system's in a person's place.
+  void dispatch(const std::function<void(Windows&)>& event) override;
+
+  /// Lets all views go at once; the forms may go after it.
+  void dropAllViews();
+
+  /// The view of a form; null when it has none.
+  [[nodiscard]] FormView* view(const Form& form) const;
+
+  void showView(Form& form, Modality modality) override;
+  void hideView(Form& form) override;
+  void dropView(Form& form) override;
+  void activateView(Form& form) override;
+  void waitModal(Form& form, const std::function<bool()>& over) override;
+  BoxAnswer showBox(const MessageBox& box) override;
+  void pumpEvents() override;
+  void Beep() override;
+  [[nodiscard]] LocalTime Now() const override;
+  [[nodiscard]] ScreenSize screen() const override;
+  void setScreenPointer(int pointer) override;
+  void showHelp(const HelpCall& call) override;
+  void setUpPrinter(int flags) override;
+  [[nodiscard]] Printer& printer() override { return printer_; }
+  [[nodiscard]] PictureFile LoadPicture(const Files& files, std::string_view name) override;
+
+ private:
+  [[nodiscard]] int modalWaits() const override { return modalWaits_; }
+  [[nodiscard]] ScreenArea area() const override;
+  void windowActivated(Form& form) override;
+
+  /// After an event: ends what the end of the run has made pointless, and lets dropped views go.
+  void settle();
+  /// Shows a dialog of the system's over the active window and waits for its result.
+  int run(QDialog& dialog);
+  [[nodiscard]] QWidget* activeWindow() const;
+  void tellWhereThePrintWent(const QString& file);
+
+  Windows* windows_ = nullptr;
+  QtPrinter printer_;
+  std::map<const Form*, std::unique_ptr<FormView>> views_;
+  std::vector<std::unique_ptr<FormView>> dropped_;
+  std::vector<QDialog*> dialogs_;
+  QPointer<QWidget> help_;
+  int modalWaits_ = 0;
+  bool screenPointerSet_ = false;
+  /// The form whose window the program has asked to become active, until the system has done so; what the system makes active on the way
+  /// there is no doing of a person's.
+  const Form* expected_ = nullptr;
+  QElapsedTimer expectedSince_;
+};
+
+}  // namespace pantrigo

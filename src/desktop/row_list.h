@@ -1,0 +1,60 @@
+#pragma once
+
+#include <QListView>
+#include <QTimer>
+#include <functional>
+
+#include "desktop/row_model.h"
+
+namespace pantrigo {
+
+/// What a person does to a list. Rows count from 0.
+struct ListActions {
+  std::function<void(int row)> picks;
+  std::function<void(int row)> movesTo;
+  std::function<void(int row)> toggles;
+  std::function<void(int row)> doubleClicks;
+  std::function<void()> pressesBeside;
+};
+
+/// The list on the screen. It selects nothing by itself: a person's doing goes to the actions, and what is selected comes back from the
+/// list that it shows. Changed rows are taken over together, no more often than a display can show them.
+class RowList : public QListView {
+ public:
+  RowList(const ListBox& list, ListActions actions, QWidget* parent);
+
+  /// The rows have changed; they are taken over soon.
+  void rowsChanged();
+  /// Takes over changed rows now.
+  void takeRows();
+  /// Shows the selection of the list, and brings the selected row into sight.
+  void showSelection();
+  /// Brings the row to the top.
+  void scrollToRow(int row);
+
+  /// A press that comes with the focus, but after a dialog that the focus opened, is out of date.
+  void dropNextPress() { dropNextPress_ = true; }
+
+ protected:
+  void mousePressEvent(QMouseEvent* event) override;
+  void mouseMoveEvent(QMouseEvent* event) override;
+  void mouseReleaseEvent(QMouseEvent* event) override;
+  void mouseDoubleClickEvent(QMouseEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+  void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
+  void focusInEvent(QFocusEvent* event) override;
+  void changeEvent(QEvent* event) override;
+  void showEvent(QShowEvent* event) override;
+
+ private:
+  [[nodiscard]] const ListBox& list() const { return model_.list(); }
+
+  RowModel model_;
+  ListActions actions_;
+  QTimer refresh_;
+  bool showing_ = false;
+  bool toTop_ = false;
+  bool dropNextPress_ = false;
+};
+
+}  // namespace pantrigo
