@@ -1,0 +1,109 @@
+#include "large_store.h"
+
+#include <array>
+#include <random>
+#include <string>
+
+#include "core/start_up.h"
+#include "platform/store/database.h"
+#include "platform/text/numbers.h"
+
+namespace pantrigo::bench {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+constexpr std::array<std::string_view, 24> dishes{"Soup",   "Stew",  "Pie",   "Cake",    "Salad",  "Curry", "Risotto", "Bread",
+                                                  "Tart",   "Gratin", "Pilaf", "Chowder", "Fritters", "Loaf", "Noodles", "Roast",
+                                                  "Crumble", "Sorbet", "Relish", "Dumplings", "Bake", "Hotpot", "Pancakes", "Terrine"};
+constexpr std::array<std::string_view, 24> mains{"Apple",  "Beef",    "Carrot", "Duck",   "Egg",    "Fennel", "Garlic", "Ham",
+                                                 "Lentil", "Mushroom", "Nut",   "Onion",  "Potato", "Quince", "Rhubarb", "Salmon",
+                                                 "Tomato", "Turnip",  "Walnut", "Pepper", "Leek",   "Chicken", "Barley", "Pumpkin"};
+constexpr std::array<std::string_view, 12> adjectives{"Spiced", "Cold", "Smoked", "Baked", "Sweet", "Sour",
+                                                      "Quick",  "Rustic", "Winter", "Summer", "Golden", "Crisp"};
+constexpr std::string_view sentence = "Stir gently over a low heat until it thickens, then season and set aside to rest. ";
+
+template <class Words>
+std::string_view pick(std::mt19937& random, const Words& words) {
+  return words[random() % words.size()];
+}
+
+std::string title(std::mt19937& random, long id) {
+  return std::string(pick(random, adjectives)) + " " + std::string(pick(random, mains)) + " " + std::string(pick(random, dishes)) + " " +
+         plainText(id);
+}
+
+std::string ingredients(std::mt19937& random) {
+  std::string memo;
+  const unsigned rows = 6 + random() % 8;
+  for (unsigned row = 0; row < rows; ++row) {
+    memo += "250000~mg~" + std::string(pick(random, mains)) + "~chopped~250~g~";
+  }
+  return memo;
+}
+
+std::string method(std::mt19937& random) {
+  std::string text;
+  const std::size_t length = static_cast<std::size_t>(recipeBytes) - 700 + random() % 600;
+  while (text.size() < length) text += sentence;
+  return text;
+}
+
+void addRecipes(Database& database) {
+  std::mt19937 random(20011105);
+  Recordset recipes = database.OpenRecordset("Recipe");
+  for (long id = 1; id <= recipeCount; ++id) {
+    recipes.AddNew();
+    recipes.Set("RecipeId", id);
+    recipes.Set("Title", title(random, id));
+    recipes.Set("Meal", random() % 100 == 0);
+    recipes.Set("Serves", static_cast<int>(2 + random() % 8));
+    recipes.Set("Ingredients", ingredients(random));
+    recipes.Set("Method", method(random));
+    recipes.Update();
+  }
+  recipes.Close();
+}
+
+void setOptions(Database& database) {
+  Recordset system = database.OpenRecordset("System");
+  system.Edit();
+  system.Set("Measurement", "m");
+  system.Set("PartialFractions", "4");
+  system.Set("Fractions", true);
+  system.Set("Centigrams", true);
+  system.Set("Cup", 250);
+  system.Set("Tablespoon", 4);
+  system.Set("ShowRecipes", true);
+  system.Set("ShowToolBars", true);
+  system.Set("RecipeId", recipeCount);
+  system.Update();
+  system.Close();
+}
+
+/// The store is made under another name first, so that a broken run leaves none behind that looks whole.
+fs::path madeStore(const std::string& folderName, bool withRecipes) {
+  const fs::path folder = fs::current_path() / folderName;
+  const fs::path store = folder / storeName;
+  if (fs::exists(store)) return folder;
+  fs::create_directories(folder);
+  const fs::path unfinished = folder / "unfinished";
+  fs::remove(unfinished);
+  Database::createStore(unfinished);
+  Database database = Database::OpenDatabase(unfinished);
+  database.setDurability(Database::Durability::AtCheckpoint);
+  setOptions(database);
+  if (withRecipes) addRecipes(database);
+  database.setDurability(Database::Durability::EachUpdate);
+  database.Close();
+  fs::rename(unfinished, store);
+  return folder;
+}
+
+}  // namespace
+
+fs::path largeStoreFolder() { return madeStore("bench-large", true); }
+fs::path emptyStoreFolder() { return madeStore("bench-empty", false); }
+
+}  // namespace pantrigo::bench
