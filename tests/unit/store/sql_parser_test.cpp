@@ -21,8 +21,8 @@ TEST(SqlLexerTest, CutsAConditionIntoTokens) {
   const std::vector<SqlToken> tokens = lexSql(" WHERE (Recipe!Energy <= 1046.7 AND T.D = 'O''Brien''s')");
   std::vector<std::string> texts;
   for (const SqlToken& token : tokens) texts.push_back(token.text);
-  const std::vector<std::string> expected{"WHERE", "(", "Recipe", "!", "Energy", "<=", "1046.7",
-                                          "AND",   "T", ".",      "D", "=",      "O'Brien's", ")", ""};
+  const std::vector<std::string> expected{"WHERE", "(", "Recipe", "!", "Energy",    "<=", "1046.7", "AND",
+                                          "T",     ".", "D",      "=", "O'Brien's", ")",  ""};
   EXPECT_EQ(texts, expected);
   EXPECT_EQ(tokens.back().kind, SqlToken::Kind::End);
 }
@@ -32,7 +32,8 @@ TEST(SqlLexerTest, ReadsNumbers) {
     const char* text;
     double number;
   };
-  for (const Case& c : {Case{"30", 30}, {"007", 7}, {".5", .5}, {"5.", 5}, {"1E+07", 1e7}, {"1e-2", .01}, {"2.5E1", 25}}) {
+  for (const Case& c :
+       {Case{"30", 30}, {"007", 7}, {".5", .5}, {"5.", 5}, {"1E+07", 1e7}, {"1e-2", .01}, {"2.5E1", 25}}) {
     const std::vector<SqlToken> tokens = lexSql(c.text);
     ASSERT_EQ(tokens.size(), 2U) << c.text;
     EXPECT_EQ(tokens.front().kind, SqlToken::Kind::Number) << c.text;
@@ -41,7 +42,8 @@ TEST(SqlLexerTest, ReadsNumbers) {
 }
 
 TEST(SqlLexerTest, RefusesWhatTheLanguageDoesNotHave) {
-  for (const char* sql : {"'open", "''' ", "a;b", "a \"b\"", "[Title]", "a % b", "1e999", "\xC3\xA9", "a\\b", "$5", "&H1F"}) {
+  for (const char* sql :
+       {"'open", "''' ", "a;b", "a \"b\"", "[Title]", "a % b", "1e999", "\xC3\xA9", "a\\b", "$5", "&H1F"}) {
     EXPECT_EQ(errorOf([sql] { static_cast<void>(lexSql(sql)); }), 3075) << sql;
   }
 }
@@ -52,16 +54,22 @@ TEST(SqlParserTest, TakesEveryTextOfTheProgram) {
            list + " FROM Recipe ",
            list + " FROM Recipe  WHERE Recipe.Title like '*pie*'",
            list + " FROM Recipe  WHERE Recipe!Ingredients like '*flour*' AND Recipe.Source like '**'",
-           list + " FROM Recipe  ,Nationality  ,Course  WHERE Nationality.Description = 'Italian' AND Recipe.Nationality = "
-                  "Nationality.NationalityId  AND Course.Description = 'O''Course' AND Recipe.Course = Course.CourseId ",
+           list +
+               " FROM Recipe  ,Nationality  ,Course  WHERE Nationality.Description = 'Italian' AND Recipe.Nationality "
+               "= "
+               "Nationality.NationalityId  AND Course.Description = 'O''Course' AND Recipe.Course = Course.CourseId ",
            list + " FROM Recipe  WHERE (('Vegan' in (Select Health.Description from Health,RecipeHealth Where "
-                  "RecipeHealth!HealthId = Health!HealthId and RecipeHealth!RecipeId = Recipe!RecipeId)) AND ('Low fat' in (Select "
+                  "RecipeHealth!HealthId = Health!HealthId and RecipeHealth!RecipeId = Recipe!RecipeId)) AND ('Low "
+                  "fat' in (Select "
                   "Health.Description from Health,RecipeHealth Where RecipeHealth!HealthId = Health!HealthId and "
                   "RecipeHealth!RecipeId = Recipe!RecipeId)))",
-           list + " FROM Recipe  ,Other,RecipeOther  WHERE (Other.Description = 'Quick' OR  Other.Description = 'Cheap' ) AND "
+           list + " FROM Recipe  ,Other,RecipeOther  WHERE (Other.Description = 'Quick' OR  Other.Description = "
+                  "'Cheap' ) AND "
                   "RecipeOther.RecipeId = Recipe.RecipeId  AND RecipeOther.OtherId = Other.OtherId ",
-           list + " FROM Recipe  WHERE (Recipe.PrepareTime >= 30 AND Recipe.PrepareTime <> 0) AND (Recipe.Energy <= 1E+07 AND "
-                  "Recipe.Energy <> 0) AND (Recipe.Fat >= -.5 AND Recipe.Fat <> 0) AND (Recipe.Iron >= +  2. AND Recipe.Iron <> 0)",
+           list + " FROM Recipe  WHERE (Recipe.PrepareTime >= 30 AND Recipe.PrepareTime <> 0) AND (Recipe.Energy <= "
+                  "1E+07 AND "
+                  "Recipe.Energy <> 0) AND (Recipe.Fat >= -.5 AND Recipe.Fat <> 0) AND (Recipe.Iron >= +  2. AND "
+                  "Recipe.Iron <> 0)",
            std::string("SELECT Health.Description  FROM RecipeHealth, Health  WHERE RecipeHealth.RecipeId = 12 AND   "
                        "RecipeHealth.HealthId  = Health.HealthId "),
            std::string("SELECT Other.Description  FROM RecipeOther, Other  WHERE RecipeOther.RecipeId =  12 AND   "
@@ -74,8 +82,9 @@ TEST(SqlParserTest, TakesEveryTextOfTheProgram) {
 }
 
 TEST(SqlParserTest, TakesEveryDeleteTextOfTheProgram) {
-  for (const char* sql : {" Delete FROM RecipeHealth WHERE RecipeHealth!RecipeId = 12", "Delete FROM Recipe WHERE Recipe!RecipeId =  12",
-                          " Delete FROM RecipeOther WHERE RecipeOther!RecipeId = 12 AND RecipeOther!OtherId = 3"}) {
+  for (const char* sql :
+       {" Delete FROM RecipeHealth WHERE RecipeHealth!RecipeId = 12", "Delete FROM Recipe WHERE Recipe!RecipeId =  12",
+        " Delete FROM RecipeOther WHERE RecipeOther!RecipeId = 12 AND RecipeOther!OtherId = 3"}) {
     EXPECT_EQ(errorOfDelete(sql), 0) << sql;
   }
 }
@@ -136,8 +145,9 @@ TEST(SqlParserTest, RefusesEverythingElse) {
 }
 
 TEST(SqlParserTest, RefusesOtherDeletes) {
-  for (const char* sql : {"Delete Recipe", "Delete * FROM Recipe", "Delete FROM Recipe, Course", "Delete FROM", "SELECT * FROM Recipe",
-                          "Delete FROM Recipe WHERE RecipeId = 1", "Delete FROM Recipe WHERE Course!CourseId = 1", ""}) {
+  for (const char* sql :
+       {"Delete Recipe", "Delete * FROM Recipe", "Delete FROM Recipe, Course", "Delete FROM", "SELECT * FROM Recipe",
+        "Delete FROM Recipe WHERE RecipeId = 1", "Delete FROM Recipe WHERE Course!CourseId = 1", ""}) {
     EXPECT_EQ(errorOfDelete(sql), 3075) << sql;
   }
 }
@@ -148,10 +158,13 @@ TEST(SqlParserTest, ReportsUnknownTables) {
   EXPECT_EQ(errorOfDelete("Delete FROM Drinks"), 3078);
 }
 
-TEST(SqlParserTest, ReportsInvalidPatterns) { EXPECT_EQ(errorOfQuery("SELECT * FROM Recipe WHERE Recipe.Title like '*[*'"), 93); }
+TEST(SqlParserTest, ReportsInvalidPatterns) {
+  EXPECT_EQ(errorOfQuery("SELECT * FROM Recipe WHERE Recipe.Title like '*[*'"), 93);
+}
 
 TEST(SqlGeneratorTest, LiteralsNeverStandInTheText) {
-  const EngineQuery query = generateQuery(parseSelect("SELECT * FROM Recipe WHERE Recipe.Title = 'x''; DROP TABLE Recipe' AND Recipe.Serves = 4711"));
+  const EngineQuery query = generateQuery(
+      parseSelect("SELECT * FROM Recipe WHERE Recipe.Title = 'x''; DROP TABLE Recipe' AND Recipe.Serves = 4711"));
   EXPECT_EQ(query.text.sql.find("DROP"), std::string::npos);
   EXPECT_EQ(query.text.sql.find("4711"), std::string::npos);
   ASSERT_EQ(query.text.parameters.size(), 2U);
@@ -162,7 +175,8 @@ TEST(SqlGeneratorTest, LiteralsNeverStandInTheText) {
 TEST(SqlGeneratorTest, AndBindsBeforeOr) {
   const EngineQuery query =
       generateQuery(parseSelect("SELECT * FROM Recipe WHERE Recipe.Serves = 1 OR Recipe.Fat = 2 AND Recipe.Iron = 3"));
-  EXPECT_NE(query.text.sql.find("((Recipe.Serves = ?1) OR (((Recipe.Fat = ?2) AND (Recipe.Iron = ?3))))"), std::string::npos)
+  EXPECT_NE(query.text.sql.find("((Recipe.Serves = ?1) OR (((Recipe.Fat = ?2) AND (Recipe.Iron = ?3))))"),
+            std::string::npos)
       << query.text.sql;
 }
 

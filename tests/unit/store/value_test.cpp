@@ -51,7 +51,8 @@ TEST(ValueTest, WholeRoundsHalvesToEven) {
     double number;
     std::int64_t whole;
   };
-  for (const Case& c : {Case{0.5, 0}, {1.5, 2}, {2.5, 2}, {-0.5, 0}, {-1.5, -2}, {2.4999, 2}, {2147483647.4, 2147483647}}) {
+  for (const Case& c :
+       {Case{0.5, 0}, {1.5, 2}, {2.5, 2}, {-0.5, 0}, {-1.5, -2}, {2.4999, 2}, {2147483647.4, 2147483647}}) {
     EXPECT_EQ(Value(c.number).whole(), c.whole) << c.number;
   }
 }
