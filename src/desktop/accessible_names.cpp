@@ -35,8 +35,9 @@ bool standsAbove(const Box& label, const Box& box) {
 std::vector<const Label*> labelsAround(const Control& control) {
   std::vector<const Label*> labels;
   for (const Control* other : control.form().controls()) {
-    const bool near = other->kind() == ControlKind::Label && other->container() == control.container() && other->Visible();
-    if (near) labels.push_back(static_cast<const Label*>(other));
+    // Controls that are shown in turns share one place; a label goes with those that are shown when it is.
+    const bool beside = other->container() == control.container() && other->Visible() == control.Visible();
+    if (beside && other->kind() == ControlKind::Label) labels.push_back(static_cast<const Label*>(other));
   }
   return labels;
 }

@@ -6,11 +6,11 @@ namespace pantrigo {
 
 Desktop::Desktop(std::filesystem::path folder) : program_(toolkit_, std::move(folder)) {
   toolkit_.attach(program_.run().windows);
-  toolkit_.whenEnded = [this] { QCoreApplication::exit(program_.exitStatus()); };
 }
 
 int Desktop::run() {
   if (program_.ended()) return program_.exitStatus();
+  toolkit_.whenEnded = [] { QCoreApplication::exit(); };
   QCoreApplication::exec();
   return program_.exitStatus();
 }

@@ -71,6 +71,7 @@ QCheckBox::indicator:checked:disabled { background: #d8c9bc; }
 QRadioButton::indicator { width: 13px; height: 13px; border: 1px solid #a99f8f; border-radius: 7px; background: #ffffff; }
 QRadioButton::indicator:focus { border: 2px solid #b85220; width: 11px; height: 11px; }
 QRadioButton::indicator:checked { background: qradialgradient(cx:0.5, cy:0.5, radius:0.5, fx:0.5, fy:0.5, stop:0 #b85220, stop:0.55 #b85220, stop:0.62 #ffffff, stop:1 #ffffff); border-color: #b85220; }
+QDialogButtonBox { dialogbuttonbox-buttons-have-icons: 0; }
 QPushButton { background: #fffdf9; border: 1px solid #c3b8a5; border-radius: 5px; padding: 4px 16px; }
 QPushButton:hover { background: #f8e6d8; }
 QPushButton:pressed { background: #efd3bf; }

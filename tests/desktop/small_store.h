@@ -1,0 +1,15 @@
+#pragma once
+
+#include <filesystem>
+
+namespace pantrigo {
+
+/// Texts of the small store that the tests compare with: a no-break blank and breaks of two kinds.
+inline constexpr const char* pieComment = "Serve\u00a0warm.\r\nKeeps two days.";
+inline constexpr const char* pieMethod = "Peel the apples.\r\n\r\nBake.\nCool.";
+
+/// Makes a store in the folder with three recipes, "Apple Pie", "Beef Stew" (in the meal) and "Carrot Cake", courses, a nationality, and two health
+/// categories of which the pie has the second.
+void makeSmallStore(const std::filesystem::path& folder);
+
+}  // namespace pantrigo
