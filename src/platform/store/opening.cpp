@@ -47,15 +47,20 @@ void checkFileExists(const fs::path& file) {
   if (failure || !fs::is_regular_file(status)) throw RuntimeError(store_error::cannotOpen);
 }
 
+/// The engine's own handle of the file: another one, once closed, would take the locks of this process on the file with
+/// it.
+sqlite3_file* fileOf(const Connection& connection) {
+  sqlite3_file* file = nullptr;
+  checkResult(sqlite3_file_control(connection.handle(), "main", SQLITE_FCNTL_FILE_POINTER, &file));
+  return file;
+}
+
 struct Header {
   bool isWriteAhead;
 };
 
-/// Reads the file's header through the engine's own handle: another one, once closed, would take the locks of this
-/// process on the file with it.
 Header checkSignature(const Connection& connection) {
-  sqlite3_file* file = nullptr;
-  checkResult(sqlite3_file_control(connection.handle(), "main", SQLITE_FCNTL_FILE_POINTER, &file));
+  sqlite3_file* file = fileOf(connection);
   sqlite3_int64 size = 0;
   checkResult(file->pMethods->xFileSize(file, &size));
   std::array<char, writeVersionPlace + 1> header{};
@@ -97,6 +102,13 @@ std::string immutableName(const fs::path& file) {
   return name + "?immutable=1";
 }
 
+/// Error 3045 while another program has the file open.
+void checkNotInUse(const Connection& connection) {
+  sqlite3_file* file = fileOf(connection);
+  checkResult(file->pMethods->xLock(file, SQLITE_LOCK_SHARED));
+  checkResult(file->pMethods->xUnlock(file, SQLITE_LOCK_NONE));
+}
+
 bool hasLog(const fs::path& file) {
   std::error_code failure;
   const auto size = fs::file_size(file.string() + "-wal", failure);
@@ -109,6 +121,7 @@ std::unique_ptr<Connection> openReadOnly(const fs::path& file) {
   const Header header = checkSignature(*connection);
   if (header.isWriteAhead && !hasLog(file)) {
     // Reading under a log needs side files, but without one all there is stands in the file.
+    checkNotInUse(*connection);
     connection =
         std::make_unique<Connection>(immutableName(file), SQLITE_OPEN_READONLY | SQLITE_OPEN_URI, Access::ReadOnly);
   }
