@@ -257,6 +257,9 @@ void FormView::controlChanged(Control& control, Aspect aspect) {
     case Aspect::Geometry:
       place(control);
       found->second->placed(presentScale() / twipsPerPixel);
+      if (const auto around = bindings_.find(control.container()); around != bindings_.end()) {
+        around->second->placed(presentScale() / twipsPerPixel);
+      }
       break;
     case Aspect::Order:
       if (control.order() > 0) found->second->widget().raise();

@@ -18,7 +18,7 @@ namespace {
 constexpr double textSizeAtDesign = 9.3;
 /// From this scale on text grows by `slowGrowth` pixels a unit of scale.
 constexpr double fullGrowthUpTo = 1.6;
-constexpr double slowGrowth = 8;
+constexpr double slowGrowth = 6;
 constexpr int smallestText = 8;
 
 constexpr std::array<QRgb, 16> colourTable{
@@ -40,6 +40,10 @@ double textSize(double scale) {
   return textSizeAtDesign * full + slowGrowth * (scale - full);
 }
 
+/// Side of the mark of a check box, in text sizes.
+constexpr double markSide = 0.9;
+
+/// The lengths "@mark", "@inner" (the mark in a border that is one pixel wider) and "@round" (its half, border included) go by the text size.
 constexpr const char* styleSheet = R"(
 QToolTip { background: #2d3944; color: #ffffff; border: 1px solid #2d3944; padding: 3px 6px; }
 QMenuBar { background: #faf6ef; border-bottom: 1px solid #e6dfd2; padding: 1px 4px; }
@@ -57,19 +61,19 @@ QLineEdit:disabled, QPlainTextEdit:disabled, QListView:disabled, QComboBox:disab
 QListView, QListView:focus { padding-left: 0px; padding-right: 0px; }
 QComboBox QLineEdit, QComboBox QLineEdit:focus { border: none; background: transparent; padding: 0px; }
 QComboBox::drop-down { border: none; width: 20px; }
-QComboBox::down-arrow { image: url(:/look/arrow_down.svg); width: 12px; height: 12px; }
+QComboBox::down-arrow { image: url(:/look/arrow_down.svg); width: @inner; height: @inner; }
 QComboBox::down-arrow:disabled { image: url(:/look/arrow_down_disabled.svg); }
 QComboBox QAbstractItemView { background: #ffffff; border: 1px solid #cfc5b4; padding: 2px; selection-background-color: #f8e6d8; selection-color: #2d3944; }
 QCheckBox, QRadioButton { spacing: 7px; }
 QCheckBox:focus, QRadioButton:focus { color: #b85220; }
 QCheckBox:disabled, QRadioButton:disabled, QLabel:disabled { color: #a09a91; }
-QCheckBox::indicator { width: 14px; height: 14px; border: 1px solid #a99f8f; border-radius: 3px; background: #ffffff; }
-QCheckBox::indicator:focus { border: 2px solid #b85220; width: 12px; height: 12px; }
+QCheckBox::indicator { width: @mark; height: @mark; border: 1px solid #a99f8f; border-radius: 3px; background: #ffffff; }
+QCheckBox::indicator:focus { border: 2px solid #b85220; width: @inner; height: @inner; }
 QCheckBox::indicator:checked { background: #b85220; border-color: #b85220; image: url(:/look/tick.svg); }
 QCheckBox::indicator:disabled { background: #f3efe8; border-color: #ddd5c8; }
 QCheckBox::indicator:checked:disabled { background: #d8c9bc; }
-QRadioButton::indicator { width: 13px; height: 13px; border: 1px solid #a99f8f; border-radius: 7px; background: #ffffff; }
-QRadioButton::indicator:focus { border: 2px solid #b85220; width: 11px; height: 11px; }
+QRadioButton::indicator { width: @mark; height: @mark; border: 1px solid #a99f8f; border-radius: @round; background: #ffffff; }
+QRadioButton::indicator:focus { border: 2px solid #b85220; width: @inner; height: @inner; }
 QRadioButton::indicator:checked { background: qradialgradient(cx:0.5, cy:0.5, radius:0.5, fx:0.5, fy:0.5, stop:0 #b85220, stop:0.55 #b85220, stop:0.62 #ffffff, stop:1 #ffffff); border-color: #b85220; }
 QDialogButtonBox { dialogbuttonbox-buttons-have-icons: 0; }
 QPushButton { background: #fffdf9; border: 1px solid #c3b8a5; border-radius: 5px; padding: 4px 16px; }
@@ -90,6 +94,15 @@ QScrollBar::add-line, QScrollBar::sub-line { width: 0px; height: 0px; }
 QScrollBar::add-page, QScrollBar::sub-page { background: transparent; }
 QWidget#frmDetail QLineEdit#txtTitle { background: #ece8e0; font-weight: bold; }
 )";
+
+QString sizedStyleSheet(double scale) {
+  const int mark = static_cast<int>(std::lround(textSize(scale) * markSide));
+  const auto pixels = [](int length) { return QString::number(length) + QStringLiteral("px"); };
+  return QString::fromLatin1(styleSheet)
+      .replace(QStringLiteral("@mark"), pixels(mark))
+      .replace(QStringLiteral("@inner"), pixels(mark - 2))
+      .replace(QStringLiteral("@round"), pixels(mark / 2 + 1));
+}
 
 QPalette windowPalette() {
   QPalette palette(hue::text, hue::ground);
@@ -148,12 +161,14 @@ QIcon iconNamed(const QString& name) {
 }
 
 void applyLook(QApplication& application, double scale) {
+  // Text sizes go down from a window to its widgets, also to those that the style sheet has rules for.
+  QCoreApplication::setAttribute(Qt::AA_UseStyleSheetPropagationInWidgetStyles);
   QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
   QFont font = QFontDatabase::systemFont(QFontDatabase::GeneralFont);
   font.setPixelSize(textPixelSize(std::min(scale, fullGrowthUpTo)));
   QApplication::setFont(font);
   QApplication::setPalette(windowPalette());
-  application.setStyleSheet(QString::fromLatin1(styleSheet));
+  application.setStyleSheet(sizedStyleSheet(scale));
   QApplication::setWindowIcon(iconNamed(QStringLiteral("pantrigo")));
 }
 

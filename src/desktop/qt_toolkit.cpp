@@ -105,9 +105,13 @@ void QtToolkit::dropAllViews() {
 void QtToolkit::activateView(Form& form) {
   FormView* window = view(form);
   if (window == nullptr) return;
-  expected_ = &form;
-  expectedSince_.start();
+  expect(window->isActiveWindow() ? nullptr : &form);
   window->activate();
+}
+
+void QtToolkit::expect(const Form* form) {
+  expected_ = form;
+  expectedSince_.start();
 }
 
 void QtToolkit::windowActivated(Form& form) {
@@ -135,10 +139,8 @@ int QtToolkit::run(QDialog& dialog) {
   const int result = dialog.exec();
   std::erase(dialogs_, &dialog);
   if (hourglass) setScreenPointer(pointerHourglass);
-  if (windows_ != nullptr && windows_->active() != nullptr) {
-    expected_ = windows_->active();
-    expectedSince_.start();
-  }
+  const QWidget* below = activeWindow();
+  if (below != nullptr && !below->isActiveWindow()) expect(windows_->active());
   return result;
 }
 

@@ -57,6 +57,7 @@ class QtToolkit : public Toolkit, private ViewHost {
   [[nodiscard]] int modalWaits() const override { return modalWaits_; }
   [[nodiscard]] ScreenArea area() const override;
   void windowActivated(Form& form) override;
+  void expect(const Form* form);
 
   /// After an event: ends what the end of the run has made pointless, and lets dropped views go.
   void settle();

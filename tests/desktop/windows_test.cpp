@@ -223,12 +223,13 @@ TEST_F(WindowsTest, ControlsGrowWithTheWindow) {
   start();
   FormView& view = window(run().frmBrowse);
   const QSize before = widget<QListView>(run().frmBrowse.lstTitles).size();
+  const int textBefore = widget<QLineEdit>(run().frmBrowse.txtTitle).font().pixelSize();
   view.resize(view.size() * 1.5);
   QTest::qWait(10);
   const QSize after = widget<QListView>(run().frmBrowse.lstTitles).size();
   EXPECT_NEAR(after.width(), before.width() * 1.5, 3);
   EXPECT_GT(after.height(), before.height() * 1.4);
-  EXPECT_GT(widget<QLineEdit>(run().frmBrowse.txtTitle).font().pixelSize(), 0);
+  EXPECT_GT(widget<QLineEdit>(run().frmBrowse.txtTitle).font().pixelSize(), textBefore);
 }
 
 }  // namespace
