@@ -15,7 +15,8 @@ namespace {
 
 constexpr int operations = 20000;
 constexpr int operationsBetweenFullChecks = 250;
-constexpr unsigned seeds[] = {1, 20010305, 77};
+constexpr unsigned highestId = 200;
+constexpr unsigned seeds[] = {1, 20010305};
 
 /// A table with one of its cursors, once in the store and once in the model.
 struct Pair {
@@ -48,7 +49,7 @@ class RandomOperationsTest : public StoreTest, public testing::WithParamInterfac
                                              Value("-a"),    Value("Zest")};
     if (type == FieldType::Text) return texts[below(texts.size())];
     if (type == FieldType::YesNo) return below(2) == 0;
-    return below(8) == 0 ? Value() : Value(static_cast<int>(1 + below(60)));
+    return below(25) == 0 ? Value() : Value(static_cast<int>(1 + below(highestId)));
   }
 
   const FieldDescription& randomField(const ModelTable& table) {
@@ -89,17 +90,26 @@ class RandomOperationsTest : public StoreTest, public testing::WithParamInterfac
     expectSame("Seek", error, pair.model.seek(comparison, key));
   }
 
+  void write(Pair& pair, const FieldDescription& field) {
+    const Value value = randomValue(field.type);
+    expectSame("Set", errorOf([&] { pair.real.Set(field.name, value); }), pair.model.set(field.name, value));
+  }
+
   void writeSome(Pair& pair) {
-    for (unsigned count = below(4); count > 0; --count) {
-      const FieldDescription& field = randomField(*pair.table);
-      const Value value = randomValue(field.type);
-      expectSame("Set", errorOf([&] { pair.real.Set(field.name, value); }), pair.model.set(field.name, value));
-    }
+    for (unsigned count = below(4); count > 0; --count) write(pair, randomField(*pair.table));
+  }
+
+  void add(Pair& pair) {
+    expectSame("AddNew", errorOf([&] { pair.real.AddNew(); }), pair.model.addNew());
+    write(pair, pair.table->description().fields[0]);
+    writeSome(pair);
+    // Some stay pending, to be dropped by what comes next.
+    if (below(4) != 0) expectSame("Update", errorOf([&] { pair.real.Update(); }), pair.model.update());
   }
 
   void removeByText(Pair& pair) {
     const std::string table(pair.table->description().name);
-    const int id = static_cast<int>(1 + below(60));
+    const int id = static_cast<int>(1 + below(highestId));
     database.Execute(" Delete FROM " + table + " WHERE " + table + "!RecipeId = " + std::to_string(id));
     pair.table->removeWhere("RecipeId", id);
   }
@@ -114,8 +124,7 @@ class RandomOperationsTest : public StoreTest, public testing::WithParamInterfac
         return expectSame("MoveFirst", errorOf([&] { real.MoveFirst(); }), pair.model.moveFirst());
       case 3:
       case 4:
-        expectSame("AddNew", errorOf([&] { real.AddNew(); }), pair.model.addNew());
-        return writeSome(pair);
+        return add(pair);
       case 5:
       case 6:
         expectSame("Edit", errorOf([&] { real.Edit(); }), pair.model.edit());
@@ -125,9 +134,10 @@ class RandomOperationsTest : public StoreTest, public testing::WithParamInterfac
       case 9:
         return expectSame("Update", errorOf([&] { real.Update(); }), pair.model.update());
       case 10:
+        if (below(2) != 0) return;
         return expectSame("Delete", errorOf([&] { real.Delete(); }), pair.model.remove());
       case 11:
-        if (below(4) == 0) removeByText(pair);
+        if (below(2) == 0) removeByText(pair);
         return;
       default:
         return expectSame("MoveNext", errorOf([&] { real.MoveNext(); }), pair.model.moveNext());
@@ -211,6 +221,8 @@ class RandomOperationsTest : public StoreTest, public testing::WithParamInterfac
       if (step_ % operationsBetweenFullChecks != 0) continue;
       ASSERT_NO_FATAL_FAILURE(compareAll());
     }
+    // Enough rows that walks read ahead, grow their batches, and lose them again.
+    EXPECT_GT(recipes_.rows().size(), 64U);
   }
 
  private:

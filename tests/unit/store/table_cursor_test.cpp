@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <functional>
 #include <set>
 
 #include "platform/store/store_state.h"
@@ -327,14 +328,22 @@ TEST_F(TableCursorTest, RowRemovedDuringAnEditIsReported) {
 }
 
 TEST_F(TableCursorTest, NewRowIsNeverMistakenForARemovedOne) {
-  addThree();
-  Recordset cursor = database.OpenRecordset("Recipe");
-  while (cursor.Field("Title") != Value("Alpha")) cursor.MoveNext();
-  database.Execute(" Delete FROM Recipe WHERE Recipe!RecipeId = 3");
-  addRecipe(4, "Delta");
-  EXPECT_EQ(errorOf([&] { static_cast<void>(cursor.Field("Title")); }), 3167);
-  cursor.MoveNext();
-  EXPECT_EQ(cursor.Field("Title"), Value("Delta"));
+  const auto removeByText = [this](Recordset&) { database.Execute(" Delete FROM Recipe WHERE Recipe!RecipeId = 3"); };
+  const auto removeByCursor = [](Recordset& cursor) { cursor.Delete(); };
+  for (const std::function<void(Recordset&)>& remove :
+       {std::function<void(Recordset&)>(removeByText), {removeByCursor}}) {
+    addRecipe(3, "Last");
+    // A store that was just opened has not given a row number yet.
+    reopen();
+    Recordset cursor = database.OpenRecordset("Recipe");
+    ASSERT_EQ(cursor.Field("Title"), Value("Last"));
+    remove(cursor);
+    addRecipe(4, "Delta");
+    EXPECT_EQ(errorOf([&] { static_cast<void>(cursor.Field("Title")); }), 3167);
+    cursor.MoveNext();
+    EXPECT_EQ(cursor.Field("Title"), Value("Delta"));
+    removeRawRows(database, "Recipe", "RecipeId", 4);
+  }
 }
 
 TEST_F(TableCursorTest, ChangesShowAtOnceInOtherCursors) {
