@@ -2,7 +2,6 @@
 
 #include "browse/filter_pages.h"
 #include "core/layout.h"
-#include "core/start_up.h"
 #include "platform/controls/input.h"
 
 namespace pantrigo {
@@ -41,7 +40,6 @@ void frmBrowse_KeyPress(Run& run, int key) {
 }
 
 void frmBrowse_Unload(Run& run) {
-  closeStore(run);
   run.loop.End();
 }
 

@@ -13,7 +13,7 @@ void frmBrowse_Activate(Run& run);
 void frmBrowse_Resize(Run& run);
 /// Esc ends the program at once.
 void frmBrowse_KeyPress(Run& run, int key);
-/// Closes the store and ends the program.
+/// Ends the program; the store is closed when everything that is running has been left.
 [[noreturn]] void frmBrowse_Unload(Run& run);
 
 }  // namespace pantrigo

@@ -4,6 +4,8 @@
 
 #include "core/colours.h"
 #include "core/messages.h"
+#include "core/pointer.h"
+#include "core/recipes.h"
 #include "platform/text/numbers.h"
 
 namespace pantrigo {
@@ -52,53 +54,51 @@ void subOpenBlankDetail(Run& run) {
   run.windows.Show(run.frmDetail);
 }
 
-void subOpenSelected(Run& run) {
-  if (!hasSelection(run)) {
-    subSelectRecipe(run);
-    return;
-  }
+void openSelectedRow(Run& run) {
   run.GLOBAL.gKeepDetailOnActivate = false;
   run.GLOBAL.gSelectedTitle = selectedTitle(run);
   run.windows.Show(run.frmDetail);
 }
 
+void subOpenSelected(Run& run) {
+  if (!hasSelection(run)) {
+    subSelectRecipe(run);
+    return;
+  }
+  openSelectedRow(run);
+}
+
 void subDeleteSelected(Run& run) {
-  run.frmBrowse.setMousePointer(pointerHourglass);
-  if (hasSelection(run)) {
+  withHourglass(run.frmBrowse, [&] {
+    if (!hasSelection(run)) {
+      subSelectRecipe(run);
+      return;
+    }
     run.GLOBAL.gSelectedTitle = selectedTitle(run);
     subDeleteTitle(run);
-  } else {
-    subSelectRecipe(run);
-  }
-  run.frmBrowse.setMousePointer(pointerDefault);
+  });
 }
 
 void subDeleteTitle(Run& run) {
   if (funConfirmDelete(run) != BoxAnswer::Yes) return;
-  Recordset& recipes = run.GLOBAL.gRecipe;
-  recipes.Index("RecipeIdxTitle");
-  recipes.Seek("=", run.GLOBAL.gSelectedTitle);
-  const std::string recipeId = recipes.Field("RecipeId").text();
+  // A title that is gone leaves no current row, which reading its id reports.
+  static_cast<void>(seekTitle(run.GLOBAL, run.GLOBAL.gSelectedTitle));
+  const std::string recipeId = run.GLOBAL.gRecipe.Field("RecipeId").text();
   guarded([&] { run.files.Kill(recipeId + ".BMP"); });
   deleteRows(run, recipeId);
   removeSelectedRow(run);
 }
 
 void subListToggleMeal(Run& run) {
-  run.frmBrowse.setMousePointer(pointerHourglass);
-  if (hasSelection(run)) {
-    Recordset& recipes = run.GLOBAL.gRecipe;
-    recipes.Index("RecipeIdxTitle");
-    recipes.Seek("=", selectedTitle(run));
-    const bool meal = !recipes.Field("Meal").truth();
-    recipes.Edit();
-    recipes.Set("Meal", meal);
-    recipes.Update();
+  withHourglass(run.frmBrowse, [&] {
+    if (!hasSelection(run)) {
+      subSelectRecipe(run);
+      return;
+    }
+    static_cast<void>(seekTitle(run.GLOBAL, selectedTitle(run)));
+    const bool meal = flipMeal(run.GLOBAL);
     run.frmBrowse.lstTitles.setColours(run.frmBrowse.lstTitles.Row(), titleRowColours(meal));
-  } else {
-    subSelectRecipe(run);
-  }
-  run.frmBrowse.setMousePointer(pointerDefault);
+  });
 }
 
 }  // namespace pantrigo

@@ -8,6 +8,8 @@ namespace pantrigo {
 
 /// Shows the detail window with a blank recipe.
 void subOpenBlankDetail(Run& run);
+/// Shows the recipe of the selected row in the detail window; a blank one when no row is selected.
+void openSelectedRow(Run& run);
 /// Shows the selected recipe in the detail window, or asks for a selection.
 void subOpenSelected(Run& run);
 /// Deletes the selected recipe after a question, or asks for a selection.

@@ -2,19 +2,13 @@
 
 #include "browse/recipe_commands.h"
 #include "core/colours.h"
+#include "core/pointer.h"
+#include "core/recipes.h"
 #include "platform/controls/input.h"
 
 namespace pantrigo {
 
 namespace {
-
-void openCurrentRow(Run& run) {
-  ListBox& titles = run.frmBrowse.lstTitles;
-  run.GLOBAL.gKeepDetailOnActivate = false;
-  titles.setRow(titles.ListIndex());
-  run.GLOBAL.gSelectedTitle = titles.List(titles.Row());
-  run.windows.Show(run.frmDetail);
-}
 
 void goToRow(Run& run, int row) {
   ListBox& titles = run.frmBrowse.lstTitles;
@@ -23,24 +17,19 @@ void goToRow(Run& run, int row) {
   run.windows.SetFocus(titles);
 }
 
-/// Runs a move under the window's hourglass.
 template <class Move>
 void moveWithPointer(Run& run, Move move) {
-  run.frmBrowse.setMousePointer(pointerHourglass);
-  move(run.frmBrowse.lstTitles);
-  run.frmBrowse.setMousePointer(pointerDefault);
+  withHourglass(run.frmBrowse, [&] { move(run.frmBrowse.lstTitles); });
 }
 
 }  // namespace
 
 void lstTitles_DblClick(Run& run) {
-  run.frmBrowse.setMousePointer(pointerHourglass);
-  openCurrentRow(run);
-  run.frmBrowse.setMousePointer(pointerDefault);
+  withHourglass(run.frmBrowse, [&] { openSelectedRow(run); });
 }
 
 void lstTitles_KeyDown(Run& run, int key) {
-  if (key == keyReturn && run.frmBrowse.lstTitles.ListIndex() >= 0) openCurrentRow(run);
+  if (key == keyReturn && run.frmBrowse.lstTitles.ListIndex() >= 0) openSelectedRow(run);
   if (key == keyDelete) subDeleteSelected(run);
 }
 
@@ -48,12 +37,9 @@ void lstTitles_SelChange(Run& run) {
   ListBox& titles = run.frmBrowse.lstTitles;
   titles.setRow(titles.ListIndex());
   if (titles.ListIndex() < 0) return;
-  Recordset& recipes = run.GLOBAL.gRecipe;
-  recipes.Index("RecipeIdxTitle");
-  recipes.Seek("=", titles.List(titles.Row()));
   // The recipe may have gone since the list was built; its row then keeps the colours it has.
-  if (recipes.NoMatch()) return;
-  titles.setColours(titles.Row(), titleRowColours(recipes.Field("Meal").truth()));
+  if (!seekTitle(run.GLOBAL, titles.List(titles.Row()))) return;
+  titles.setColours(titles.Row(), titleRowColours(run.GLOBAL.gRecipe.Field("Meal").truth()));
 }
 
 void subListFirst(Run& run) {

@@ -6,7 +6,7 @@ namespace pantrigo {
 
 // Events of the list of titles.
 
-/// Opens the row under the mouse.
+/// Opens the selected row; a blank recipe when there is none.
 void lstTitles_DblClick(Run& run);
 /// Enter opens the selected row, Delete deletes its recipe.
 void lstTitles_KeyDown(Run& run, int key);

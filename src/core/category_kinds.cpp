@@ -48,14 +48,28 @@ std::string categoryDescription(Global& global, const CategoryKind& kind, const 
   return categories.NoMatch() ? std::string() : categories.Field("Description").text();
 }
 
-void appendToCategoryLists(Run& run, const CategoryKind& kind, std::string_view description) {
+void addToBrowse(Run& run, const CategoryKind& kind, std::string_view description) {
   if (kind.isLinked()) {
     (run.frmBrowse.*kind.browseList).AddItem(description);
-    (run.frmDetail.*kind.detailList).AddItem(description);
   } else {
     (run.frmBrowse.*kind.browseCombo).AddItem(description);
+  }
+}
+
+void addToDetail(Run& run, const CategoryKind& kind, std::string_view description) {
+  if (kind.isLinked()) {
+    (run.frmDetail.*kind.detailList).AddItem(description);
+  } else {
     (run.frmDetail.*kind.detailCombo).AddItem(description);
   }
+}
+
+std::vector<std::string> browseRows(const Run& run, const CategoryKind& kind) {
+  if (!kind.isLinked()) return (run.frmBrowse.*kind.browseCombo).rows();
+  const ListBox& list = run.frmBrowse.*kind.browseList;
+  std::vector<std::string> descriptions;
+  for (int row = 0; row < list.ListCount(); ++row) descriptions.push_back(list.List(row));
+  return descriptions;
 }
 
 std::string markedCaption(std::string_view caption, const ListBox& list) {

@@ -49,8 +49,12 @@ inline constexpr std::size_t categoryKindCount = 6;
 /// The description of a category by its id; empty for Null and for an id whose row is missing.
 [[nodiscard]] std::string categoryDescription(Global& global, const CategoryKind& kind, const Value& id);
 
-/// Appends a description to the lists of a kind on both windows.
-void appendToCategoryLists(Run& run, const CategoryKind& kind, std::string_view description);
+/// Appends a description to the list or combo box of a kind on the main window, respectively on the detail window.
+void addToBrowse(Run& run, const CategoryKind& kind, std::string_view description);
+void addToDetail(Run& run, const CategoryKind& kind, std::string_view description);
+
+/// The descriptions that the main window's list or combo box of a kind holds, in its order.
+[[nodiscard]] std::vector<std::string> browseRows(const Run& run, const CategoryKind& kind);
 
 /// A label's caption with a "~" behind it when a row of the list is selected.
 [[nodiscard]] std::string markedCaption(std::string_view caption, const ListBox& list);

@@ -7,17 +7,13 @@ namespace pantrigo {
 /// Height of a tool bar in twips at design size: what the list and the frames below it gain when the tool bars are off.
 inline constexpr double toolBarHeight = 640;
 
-/// Width of a tool bar's buttons and which image list it uses: the smaller ones on a screen of the design's width.
-inline constexpr double smallButtonWidth = 585.0715;
-inline constexpr double largeButtonWidth = 705.26;
-
 /// Whether the options show the tool bars; Null counts as no.
 [[nodiscard]] bool toolBarsShown(Run& run);
 
 /// Shows or hides both tool bars, and gives the main window's list and filters the room that is left.
 void applyToolBarLayout(Run& run);
 
-/// Sizes a tool bar's buttons for the screen, and shows its first two spacers on any but the smallest.
+/// Sizes a tool bar's buttons for the screen, and shows its first two spacers on any but one of the design's width.
 void sizeToolBar(Run& run, ToolBar& toolBar);
 
 /// Enlarges a form for the screen and places it: centred across, a third of the free height above.

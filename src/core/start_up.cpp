@@ -21,12 +21,7 @@ void openCategories(Run& run) {
     Recordset& categories = run.GLOBAL.*kind.cursor;
     categories = run.GLOBAL.gDatabase.OpenRecordset(kind.name);
     for (; !categories.Eof(); categories.MoveNext()) {
-      const std::string description = categories.Field("Description").text();
-      if (kind.isLinked()) {
-        (run.frmBrowse.*kind.browseList).AddItem(description);
-      } else {
-        (run.frmBrowse.*kind.browseCombo).AddItem(description);
-      }
+      addToBrowse(run, kind, categories.Field("Description").text());
     }
   }
 }

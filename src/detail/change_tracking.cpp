@@ -5,6 +5,16 @@
 
 namespace pantrigo {
 
+namespace {
+
+void listClicked(Run& run, const CategoryKind& kind, bool Global::*changed) {
+  (run.frmDetail.*kind.detailLabel).setCaption(markedCaption(kind.labelCaption, run.frmDetail.*kind.detailList));
+  run.GLOBAL.gDetailChanged = true;
+  run.GLOBAL.*changed = true;
+}
+
+}  // namespace
+
 bool funKeepChanges(Run& run) {
   if (!run.GLOBAL.gDetailChanged) return false;
   const BoxAnswer answer =
@@ -32,17 +42,9 @@ void txtMethod_Change(Run& run) {
   run.GLOBAL.gMethodChanged = true;
 }
 
-void lstHealth_Click(Run& run) {
-  run.frmDetail.lblHealth.setCaption(markedCaption("Health", run.frmDetail.lstHealth));
-  run.GLOBAL.gDetailChanged = true;
-  run.GLOBAL.gHealthChanged = true;
-}
+void lstHealth_Click(Run& run) { listClicked(run, categoryKind("Health"), &Global::gHealthChanged); }
 
-void lstOther_Click(Run& run) {
-  run.frmDetail.lblOther.setCaption(markedCaption("Other Categories", run.frmDetail.lstOther));
-  run.GLOBAL.gDetailChanged = true;
-  run.GLOBAL.gOtherChanged = true;
-}
+void lstOther_Click(Run& run) { listClicked(run, categoryKind("Other"), &Global::gOtherChanged); }
 
 void lblServes_Click(Run& run) {
   run.GLOBAL.gDetailChanged = true;

@@ -1,6 +1,9 @@
 #include "detail/clear_detail.h"
 
 #include "core/category_kinds.h"
+#include "core/pointer.h"
+#include "core/recipes.h"
+#include "detail/option_labels.h"
 #include "measures/ingredient_rows.h"
 
 namespace pantrigo {
@@ -19,22 +22,6 @@ void clearCategories(Run& run) {
 }
 
 }  // namespace
-
-void showMeasurement(Run& run) {
-  const std::string measurement = run.GLOBAL.gSystem.Field("Measurement").text();
-  Label& label = run.frmDetail.lblMeasurement;
-  if (measurement == "m") label.setCaption("(metric)");
-  if (measurement == "i") label.setCaption("(UK imperial)");
-  if (measurement == "u") label.setCaption("(US imperial)");
-}
-
-void showSettings(Run& run) {
-  const Recordset& system = run.GLOBAL.gSystem;
-  const Value settings = system.Field("Settings");
-  const bool shown = !settings.isNull() && settings.text() != " " && system.Field("SettingsIngredients").truth();
-  run.frmDetail.lblSettings.setCaption(shown ? "(" + settings.text() + ")" : "");
-  run.frmDetail.lblSettings.setVisible(shown);
-}
 
 void subClearDetail(Run& run) {
   FrmDetail& form = run.frmDetail;

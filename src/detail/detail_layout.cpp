@@ -9,13 +9,7 @@ namespace {
 enum class Arrangement { WithPicture, WithoutPicture };
 
 /// What the frames below the tool bar move up by, and the lists grow by, when it is off, in twips at design size.
-struct Columns {
-  double scale;
-  /// 640 without the tool bar, else 0.
-  double gained;
-};
-
-Columns columns(Run& run) { return {run.GLOBAL.gScale, toolBarsShown(run) ? 0 : toolBarHeight}; }
+double roomGained(Run& run) { return toolBarsShown(run) ? 0 : toolBarHeight; }
 
 void place(Control& control, Box box, double scale) {
   control.setBox({box.left * scale, box.top * scale, box.width * scale, box.height * scale});
@@ -24,10 +18,10 @@ void place(Control& control, Box box, double scale) {
 /// The method box gains 600 and not 640 without the tool bar: the difference is meant.
 constexpr double methodBoxGain = 600;
 
-void placeCommonFrames(Run& run) {
+void placeCommonFrames(Run& run, double gained) {
   FrmDetail& form = run.frmDetail;
-  const auto [scale, gained] = columns(run);
-  form.fmeTitle.setTop((640 - gained) * scale);
+  const double scale = run.GLOBAL.gScale;
+  form.fmeTitle.setTop((toolBarHeight - gained) * scale);
   form.fmeCategories.setTop((1200 - gained) * scale);
   for (Frame* frame : {&form.fmeIngredients, &form.fmeMethod}) {
     frame->setTop((4485 - gained) * scale);
@@ -45,9 +39,9 @@ struct FramePlace {
 };
 
 constexpr FramePlace framePlaces[] = {
-    {&FrmDetail::fmePicture, {6750, 1200, 2805, 3270}, {6750, 1390 + 640, 2805, 1600}},
-    {&FrmDetail::fmeGeneral, {0, 3630, 2400, 840}, {6750, 550 + 640, 2805, 840}},
-    {&FrmDetail::fmeComments, {2430, 3630, 4305, 840}, {0, 2990 + 640, 9555, 840}},
+    {&FrmDetail::fmePicture, {6750, 1200, 2805, 3270}, {6750, 1390 + toolBarHeight, 2805, 1600}},
+    {&FrmDetail::fmeGeneral, {0, 3630, 2400, 840}, {6750, 550 + toolBarHeight, 2805, 840}},
+    {&FrmDetail::fmeComments, {2430, 3630, 4305, 840}, {0, 2990 + toolBarHeight, 9555, 840}},
 };
 
 constexpr double labelHeight = 225;
@@ -87,12 +81,12 @@ void placeInner(Run& run, Arrangement arrangement) {
 }
 
 void arrange(Run& run, Arrangement arrangement) {
-  placeCommonFrames(run);
-  const auto [scale, gained] = columns(run);
+  const double gained = roomGained(run);
+  placeCommonFrames(run, gained);
   for (const FramePlace& frame : framePlaces) {
     Box box = arrangement == Arrangement::WithPicture ? frame.withPicture : frame.withoutPicture;
     box.top -= gained;
-    place(run.frmDetail.*frame.frame, box, scale);
+    place(run.frmDetail.*frame.frame, box, run.GLOBAL.gScale);
   }
   placeInner(run, arrangement);
 }

@@ -25,14 +25,7 @@ void scaleControls(Run& run) {
 
 void copyCategoryLists(Run& run) {
   for (const CategoryKind& kind : categoryKinds()) {
-    if (kind.isLinked()) {
-      const ListBox& source = run.frmBrowse.*kind.browseList;
-      for (int row = 0; row < source.ListCount(); ++row) (run.frmDetail.*kind.detailList).AddItem(source.List(row));
-    } else {
-      for (const std::string& description : (run.frmBrowse.*kind.browseCombo).rows()) {
-        (run.frmDetail.*kind.detailCombo).AddItem(description);
-      }
-    }
+    for (const std::string& description : browseRows(run, kind)) addToDetail(run, kind, description);
   }
 }
 

@@ -5,17 +5,12 @@
 namespace pantrigo {
 
 // Navigation steps through the titles of the main window's list, never through the store. Changes are asked about first.
+
 void subFirstRecipe(Run& run);
 /// From the first row, and from no selection, lands on row 0.
 void subPreviousRecipe(Run& run);
 /// From the last row reloads it and stays.
 void subNextRecipe(Run& run);
 void subLastRecipe(Run& run);
-
-/// Finds the first title at or after the one typed, and shows its recipe.
-void subFindRecipe(Run& run);
-
-/// Takes the recipe whose title is typed into the meal or out of it, at once.
-void subToggleMeal(Run& run);
 
 }  // namespace pantrigo

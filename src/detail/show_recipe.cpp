@@ -2,8 +2,10 @@
 
 #include "core/category_kinds.h"
 #include "core/colours.h"
+#include "core/recipes.h"
 #include "detail/clear_detail.h"
 #include "detail/detail_layout.h"
+#include "detail/option_labels.h"
 #include "measures/ingredient_rows.h"
 #include "measures/show_ingredients.h"
 #include "platform/text/letters.h"
@@ -111,8 +113,7 @@ void showGeneral(Run& run) {
 
 void showIngredients(Run& run) {
   const Recordset& recipe = run.GLOBAL.gRecipe;
-  resetIngredientRows(run, 0);
-  if (const Value memo = recipe.Field("Ingredients"); !memo.isNull()) readIngredientRows(run, memo.text());
+  readIngredientRows(run, recipe.Field("Ingredients").text());
   subShowIngredients(run, "s", Value(recipe.Field("Makes")));
   if (run.frmDetail.lstIngredient.ListCount() > 0) run.frmDetail.lstIngredient.setTopIndex(0);
 }
@@ -157,9 +158,7 @@ void subShowRecipe(Run& run) {
   global.gMethodChanged = false;
   global.gCommentsChanged = false;
   global.gTitleBeforeEdit = form.txtTitle.Text();
-  global.gRecipe.Index("RecipeIdxTitle");
-  global.gRecipe.Seek("=", global.gSelectedTitle);
-  if (global.gRecipe.NoMatch()) return;
+  if (!seekTitle(global, global.gSelectedTitle)) return;
   showTitle(run);
   showPicture(run);
   showCategories(run);

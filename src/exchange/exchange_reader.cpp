@@ -10,8 +10,6 @@ namespace {
 
 constexpr long tagLength = 3;
 
-bool startsWith(std::string_view line, std::string_view tag) { return line.substr(0, tag.size()) == tag; }
-
 /// The suffix of the next picture: none, "a", "b" and so on by character code.
 std::string nextSuffix(const std::string& suffix) {
   return suffix.empty() ? "a" : std::string(1, static_cast<char>(suffix.front() + 1));
@@ -26,6 +24,8 @@ ExchangeReader::ExchangeReader(Global& global, const Files& files, std::string p
       pictureFolder_(std::move(pictureFolder)),
       duplicates_(duplicates),
       events_(std::move(events)) {
+  global_.gDatabase.raiseCounters();
+  global_.gSystem = global_.gDatabase.OpenRecordset("System");
   global_.gImageRecipeId = static_cast<long>(global_.gSystem.Field("RecipeId").whole());
   for (std::size_t place = 0; place < categoryKindCount; ++place) {
     const CategoryKind& kind = categoryKinds()[place];
@@ -38,13 +38,14 @@ long ExchangeReader::countRecipes(TextReader& file) {
   long count = 0;
   std::string line = file.LineInput();
   while (!file.Eof()) {
-    if (startsWith(line, "00:")) ++count;
+    if (line.starts_with("00:")) ++count;
     line = file.LineInput();
   }
   return count;
 }
 
-void ExchangeReader::step(const std::function<void()>& statement) {
+template <class Statement>
+void ExchangeReader::step(Statement&& statement) {
   if (skipping_) {
     guarded(statement);
   } else {
@@ -120,7 +121,7 @@ void ExchangeReader::startRecipe(TextReader& file) {
 
 void ExchangeReader::skipRecipe(TextReader& file) {
   while (!file.Eof()) {
-    if (startsWith(file.LineInput(), "99:")) return;
+    if (file.LineInput().starts_with("99:")) return;
   }
 }
 

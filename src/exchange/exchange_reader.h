@@ -39,7 +39,7 @@ struct ImportCounts {
 /// fails is skipped and the next one runs.
 class ExchangeReader {
  public:
-  /// The recordsets of `global` are open but for those of the link tables, which are opened here. Pictures are copied from
+  /// The recordsets of `global` are open; `System` and the link tables are opened anew here. Pictures are copied from
   /// `pictureFolder` to `gStartDir`.
   ExchangeReader(Global& global, const Files& files, std::string pictureFolder, DuplicateTitles duplicates, ImportEvents events);
 
@@ -55,7 +55,8 @@ class ExchangeReader {
   [[nodiscard]] const ImportCounts& counts() const { return counts_; }
 
  private:
-  void step(const std::function<void()>& statement);
+  template <class Statement>
+  void step(Statement&& statement);
   void handleLine(TextReader& file, const std::string& line);
   void perform(TextReader& file, const ExchangeTag& tag);
   void startRecipe(TextReader& file);

@@ -28,6 +28,9 @@ std::vector<ToolButton> FrmDetail::toolButtons() {
 
 FrmDetail::FrmDetail() : Form("frmDetail", "Recipe Detail", 9600, 6630) {
   setKeyPreview(true);
+  for (Label* clickable : {&lblNationality, &lblCourse, &lblCooking, &lblEase, &lblHealth, &lblOther, &lblPicture, &lblServes, &lblSettings}) {
+    clickable->setMousePointer(pointerCustom);
+  }
   sealDesign(&txtTitle);
 }
 

@@ -34,7 +34,6 @@ FrmOven::FrmOven() : Form("frmOven", "Oven Temperature Conversion Chart", 4500, 
     const Box box{columnLefts[column], firstRowTop + rowDistance * static_cast<double>(row), 600, 225};
     labels[place] = std::make_unique<Label>(fmeOven, "Label" + plainText(static_cast<long>(place + 1)), chart[row][column], box);
   }
-  setDefaultButton(cmdCancel);
   setCancelButton(cmdCancel);
   sealDesign(&cmdCancel);
 }

@@ -14,7 +14,6 @@ constexpr const char* usage =
     "Makes a new store, puts the unit words of FILE into it, and loads the recipes of the exchange file.\n"
     "An existing file is never overwritten.\n";
 
-
 std::optional<pantrigo::NewStore> readArguments(int count, char** values) {
   pantrigo::NewStore task;
   std::vector<std::string> names;
@@ -49,7 +48,10 @@ int main(int argumentCount, char** argumentValues) {
     std::cout << task->store.string() << ": " << result.counts.added << " recipes of " << result.counts.read << " read, "
               << result.unitWords << " unit words, " << result.counts.warnings << " warnings\n";
   } catch (const pantrigo::RuntimeError& error) {
-    std::cerr << task->store.string() << ": error " << error.number() << ": " << error.text() << '\n';
+    std::cerr << "newstore: error " << error.number() << ": " << error.text() << '\n';
+    return 1;
+  } catch (const std::exception& error) {
+    std::cerr << "newstore: " << error.what() << '\n';
     return 1;
   }
   return 0;

@@ -1,5 +1,6 @@
 #include "newstore/make_store.h"
 
+#include "platform/text/errors.h"
 #include "platform/text/letters.h"
 
 namespace pantrigo {
@@ -71,9 +72,9 @@ long loadUnitWords(Database& database, const Files& files, const std::filesystem
   return count;
 }
 
-NewStoreResult makeStore(const NewStore& task) {
-  const Files files(std::filesystem::current_path());
-  Database::createStore(task.store);
+namespace {
+
+NewStoreResult fillStore(const NewStore& task, const Files& files) {
   NewStoreResult result;
   Global global;
   global.gDatabase = Database::OpenDatabase(task.store);
@@ -83,6 +84,21 @@ NewStoreResult makeStore(const NewStore& task) {
   if (!task.exchangeFile.empty()) loadRecipes(global, files, task.exchangeFile, result);
   global.gDatabase.Close();
   return result;
+}
+
+}  // namespace
+
+NewStoreResult makeStore(const NewStore& task) {
+  const Files files(std::filesystem::current_path());
+  Database::createStore(task.store);
+  try {
+    return fillStore(task, files);
+  } catch (const RuntimeError&) {
+    // A store that could not be filled would stand in the way of the next try.
+    std::error_code ignored;
+    std::filesystem::remove(task.store, ignored);
+    throw;
+  }
 }
 
 }  // namespace pantrigo

@@ -24,7 +24,7 @@ struct NewStoreResult {
 };
 
 /// Makes the store, with the options of a new cookbook. Pictures of the exchange file go beside the store. Error 75 when the file exists
-/// already; errors of the files and of the exchange file.
+/// already; errors of the files and of the exchange file, after which no store is left behind.
 NewStoreResult makeStore(const NewStore& task);
 
 /// Puts the unit words of a file into the open store; gives their number. Error 93 for a line that is none.

@@ -8,8 +8,9 @@ namespace pantrigo {
 Program::Program(Toolkit& toolkit, std::filesystem::path folder) : run_(toolkit, std::move(folder)) {
   wireFrmBrowse(run_);
   wireFrmDetail(run_);
-  wireSmallDialogs(run_);
-  for (Form* form : run_.forms()) disableUnwired(*form);
+  wireFrmAbout(run_);
+  wireFrmOven(run_);
+  for (Form* form : run_.forms()) finishWiring(*form);
   run_.loop.closing = [this] { closeStore(run_); };
 }
 

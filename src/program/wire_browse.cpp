@@ -2,21 +2,15 @@
 #include "browse/recipe_commands.h"
 #include "browse/title_list.h"
 #include "core/messages.h"
+#include "program/wire_commands.h"
 #include "program/wiring.h"
 
 namespace pantrigo {
 
 namespace {
 
-using Routine = void (*)(Run&);
-
-/// A menu entry and its routine; nothing of the kind runs while the window is busy.
-struct Command {
-  MenuEntry FrmBrowse::*entry;
-  Routine routine;
-};
-
-constexpr Command commands[] = {
+constexpr MenuCommand<FrmBrowse> menuCommands[] = {
+    {&FrmBrowse::mnuPrintSetup, setUpPrinter},
     {&FrmBrowse::mnuAdd, subOpenBlankDetail},
     {&FrmBrowse::mnuUpdate, subOpenSelected},
     {&FrmBrowse::mnuDelete, subDeleteSelected},
@@ -30,20 +24,15 @@ constexpr Command commands[] = {
     {&FrmBrowse::mnuAbout, [](Run& run) { run.windows.ShowModal(run.frmAbout); }},
 };
 
-/// A tool bar button and the menu entry that it stands for.
-struct Button {
-  std::string_view key;
-  MenuEntry FrmBrowse::*entry;
+constexpr ToolCommand<FrmBrowse> toolCommands[] = {
+    {"Options", &FrmBrowse::mnuOptions}, {"Clear", &FrmBrowse::mnuClear},       {"Filter", &FrmBrowse::mnuFilter},
+    {"Add", &FrmBrowse::mnuAdd},         {"Update", &FrmBrowse::mnuUpdate},     {"Delete", &FrmBrowse::mnuDelete},
+    {"Print", &FrmBrowse::mnuPrint},     {"First", &FrmBrowse::mnuFirst},       {"Previous", &FrmBrowse::mnuPrevious},
+    {"Next", &FrmBrowse::mnuNext},       {"Last", &FrmBrowse::mnuLast},         {"Settings", &FrmBrowse::mnuSettings},
+    {"Meal", &FrmBrowse::mnuMeal},       {"Exit", &FrmBrowse::mnuExit},
 };
 
-constexpr Button buttons[] = {
-    {"Options", &FrmBrowse::mnuOptions},   {"Clear", &FrmBrowse::mnuClear},       {"Filter", &FrmBrowse::mnuFilter},
-    {"Add", &FrmBrowse::mnuAdd},           {"Update", &FrmBrowse::mnuUpdate},     {"Delete", &FrmBrowse::mnuDelete},
-    {"Print", &FrmBrowse::mnuPrint},       {"First", &FrmBrowse::mnuFirst},       {"Previous", &FrmBrowse::mnuPrevious},
-    {"Next", &FrmBrowse::mnuNext},         {"Last", &FrmBrowse::mnuLast},         {"Settings", &FrmBrowse::mnuSettings},
-    {"Meal", &FrmBrowse::mnuMeal},         {"Exit", &FrmBrowse::mnuExit},
-};
-
+/// Stop acts at any time, the other buttons only while the window isn't busy.
 void tbBrowse_ButtonClick(Run& run, const std::string& key) {
   if (key == "Stop") {
     run.frmBrowse.mbStop = true;
@@ -51,9 +40,18 @@ void tbBrowse_ButtonClick(Run& run, const std::string& key) {
   }
   if (run.frmBrowse.mbBusy) return;
   if (key == "Help") subShowHelp(run, helpBrowse);
-  for (const Button& button : buttons) {
-    if (button.key == key) (run.frmBrowse.*button.entry).Click();
-  }
+  pressToolButton<FrmBrowse>(run.frmBrowse, toolCommands, key);
+}
+
+void wireList(Run& run) {
+  ListBox& titles = run.frmBrowse.lstTitles;
+  titles.DblClick = [&run] {
+    if (!run.frmBrowse.mbBusy) lstTitles_DblClick(run);
+  };
+  titles.KeyDown = [&run](int key) {
+    if (!run.frmBrowse.mbBusy) lstTitles_KeyDown(run, key);
+  };
+  titles.SelChange = [&run] { lstTitles_SelChange(run); };
 }
 
 }  // namespace
@@ -65,16 +63,8 @@ void wireFrmBrowse(Run& run) {
   form.Resize = [&run] { frmBrowse_Resize(run); };
   form.KeyPress = [&run](int key) { frmBrowse_KeyPress(run, key); };
   form.Unload = [&run] { frmBrowse_Unload(run); };
-
-  form.lstTitles.DblClick = [&run] {
-    if (!run.frmBrowse.mbBusy) lstTitles_DblClick(run);
-  };
-  form.lstTitles.KeyDown = [&run](int key) {
-    if (!run.frmBrowse.mbBusy) lstTitles_KeyDown(run, key);
-  };
-  form.lstTitles.SelChange = [&run] { lstTitles_SelChange(run); };
-
-  for (const Command& command : commands) {
+  wireList(run);
+  for (const MenuCommand<FrmBrowse>& command : menuCommands) {
     (form.*command.entry).Click = [&run, routine = command.routine] {
       if (!run.frmBrowse.mbBusy) routine(run);
     };
@@ -82,10 +72,7 @@ void wireFrmBrowse(Run& run) {
   // Exit alone works while the window is busy.
   form.mnuExit.Click = [&run] { run.loop.End(); };
   form.tbBrowse.ButtonClick = [&run](const std::string& key) { tbBrowse_ButtonClick(run, key); };
-
-  for (const Button& button : buttons) {
-    if (!(form.*button.entry).Click.isWired()) form.tbBrowse.setButtonEnabled(button.key, false);
-  }
+  disableUnwiredButtons<FrmBrowse>(form, form.tbBrowse, toolCommands);
 }
 
 }  // namespace pantrigo

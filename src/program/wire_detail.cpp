@@ -1,21 +1,18 @@
 #include "core/messages.h"
 #include "detail/change_tracking.h"
 #include "detail/detail_window.h"
+#include "detail/find_recipe.h"
 #include "detail/navigation.h"
+#include "detail/toggle_meal.h"
+#include "program/wire_commands.h"
 #include "program/wiring.h"
 
 namespace pantrigo {
 
 namespace {
 
-using Routine = void (*)(Run&);
-
-struct Command {
-  MenuEntry FrmDetail::*entry;
-  Routine routine;
-};
-
-constexpr Command commands[] = {
+constexpr MenuCommand<FrmDetail> menuCommands[] = {
+    {&FrmDetail::mnuPrinterSetup, setUpPrinter},
     {&FrmDetail::mnuExit, leaveDetail},
     {&FrmDetail::mnuClear, clearRecipe},
     {&FrmDetail::mnuFind, subFindRecipe},
@@ -30,24 +27,17 @@ constexpr Command commands[] = {
     {&FrmDetail::mnuAbout, [](Run& run) { run.windows.ShowModal(run.frmAbout); }},
 };
 
-struct Button {
-  std::string_view key;
-  MenuEntry FrmDetail::*entry;
-};
-
-constexpr Button buttons[] = {
-    {"Clear", &FrmDetail::mnuClear},         {"Find", &FrmDetail::mnuFind},           {"Add", &FrmDetail::mnuAdd},
-    {"Update", &FrmDetail::mnuUpdate},       {"Delete", &FrmDetail::mnuDelete},       {"Print", &FrmDetail::mnuPrint},
-    {"First", &FrmDetail::mnuFirst},         {"Previous", &FrmDetail::mnuPrevious},   {"Next", &FrmDetail::mnuNext},
-    {"Last", &FrmDetail::mnuLast},           {"Settings", &FrmDetail::mnuSettings},   {"Nutrition", &FrmDetail::mnuNutrition},
-    {"Meal", &FrmDetail::mnuMeal},           {"Oven", &FrmDetail::mnuOven},           {"Exit", &FrmDetail::mnuExit},
+constexpr ToolCommand<FrmDetail> toolCommands[] = {
+    {"Clear", &FrmDetail::mnuClear},       {"Find", &FrmDetail::mnuFind},         {"Add", &FrmDetail::mnuAdd},
+    {"Update", &FrmDetail::mnuUpdate},     {"Delete", &FrmDetail::mnuDelete},     {"Print", &FrmDetail::mnuPrint},
+    {"First", &FrmDetail::mnuFirst},       {"Previous", &FrmDetail::mnuPrevious}, {"Next", &FrmDetail::mnuNext},
+    {"Last", &FrmDetail::mnuLast},         {"Settings", &FrmDetail::mnuSettings}, {"Nutrition", &FrmDetail::mnuNutrition},
+    {"Meal", &FrmDetail::mnuMeal},         {"Oven", &FrmDetail::mnuOven},         {"Exit", &FrmDetail::mnuExit},
 };
 
 void tbDetail_ButtonClick(Run& run, const std::string& key) {
   if (key == "Help") subShowHelp(run, helpDetail);
-  for (const Button& button : buttons) {
-    if (button.key == key) (run.frmDetail.*button.entry).Click();
-  }
+  pressToolButton<FrmDetail>(run.frmDetail, toolCommands, key);
 }
 
 void wireChanges(Run& run) {
@@ -75,13 +65,11 @@ void wireFrmDetail(Run& run) {
   form.KeyPress = [&run](int key) { frmDetail_KeyPress(run, key); };
   form.CloseMark = [&run] { leaveDetail(run); };
   wireChanges(run);
-  for (const Command& command : commands) {
+  for (const MenuCommand<FrmDetail>& command : menuCommands) {
     (form.*command.entry).Click = [&run, routine = command.routine] { routine(run); };
   }
   form.tbDetail.ButtonClick = [&run](const std::string& key) { tbDetail_ButtonClick(run, key); };
-  for (const Button& button : buttons) {
-    if (!(form.*button.entry).Click.isWired()) form.tbDetail.setButtonEnabled(button.key, false);
-  }
+  disableUnwiredButtons<FrmDetail>(form, form.tbDetail, toolCommands);
 }
 
 }  // namespace pantrigo

@@ -7,9 +7,11 @@ namespace pantrigo {
 // One function a form: ties the form's events to its routines.
 void wireFrmBrowse(Run& run);
 void wireFrmDetail(Run& run);
-void wireSmallDialogs(Run& run);
+void wireFrmAbout(Run& run);
+void wireFrmOven(Run& run);
 
-/// Greys the menu entries and tool bar buttons of a form that nothing is wired to; to be called after the wiring.
-void disableUnwired(Form& form);
+/// Greys the menu entries of a form that nothing is wired to, and makes what the wiring left the form's design. To be called after the
+/// wiring, before the form is loaded.
+void finishWiring(Form& form);
 
 }  // namespace pantrigo

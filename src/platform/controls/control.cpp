@@ -19,14 +19,14 @@ void Control::setEnabled(bool enabled) {
   if (common_.enabled == enabled) return;
   common_.enabled = enabled;
   changed(Aspect::Enabled);
-  if (!enabled && form_.windows_ != nullptr) form_.windows_->focusLost(*this);
+  if (!enabled && form_.windows_ != nullptr) form_.windows_->focusLost(form_);
 }
 
 void Control::setVisible(bool visible) {
   if (common_.visible == visible) return;
   common_.visible = visible;
   changed(Aspect::Visible);
-  if (!visible && form_.windows_ != nullptr) form_.windows_->focusLost(*this);
+  if (!visible && form_.windows_ != nullptr) form_.windows_->focusLost(form_);
 }
 
 void Control::setMousePointer(int pointer) {

@@ -20,10 +20,11 @@ const std::string& ListBox::List(int row) const {
 }
 
 void ListBox::setListIndex(int row) {
+  const int before = listIndex_;
   listIndex_ = holds(row) ? row : -1;
   changed(Aspect::Selection);
   if (listIndex_ < 0) return;
-  Click();
+  if (listIndex_ != before) Click();
   SelChange();
 }
 

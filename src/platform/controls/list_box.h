@@ -19,8 +19,8 @@ struct RowColours {
 
 enum class Selection { Single, Multiple };
 
-/// A list of text rows. With single selection `ListIndex` is the selected row; setting it by code raises `Click` and
-/// `SelChange`. With multiple selection each row has its own mark, and marks set by code raise nothing. `Row` is a pointer for
+/// A list of text rows. With single selection `ListIndex` is the selected row; setting it by code raises `Click` when it
+/// differs, and `SelChange` always. With multiple selection each row has its own mark, and marks set by code raise nothing. `Row` is a pointer for
 /// reading and colouring; it moves nothing and raises nothing.
 class ListBox : public Control {
  public:
@@ -38,7 +38,7 @@ class ListBox : public Control {
   void setRow(int row) { row_ = row; }
   [[nodiscard]] int TopIndex() const { return topIndex_; }
   void setTopIndex(int row);
-  /// 1: rows stand in the order of the store's texts; 0: in the order given.
+  /// 1: rows added from now on take their place in the order of the store's texts; 0: they come last.
   [[nodiscard]] int Sorted() const { return sorted_; }
   void setSorted(int sorted);
 

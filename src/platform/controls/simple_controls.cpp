@@ -1,5 +1,7 @@
 #include "platform/controls/simple_controls.h"
 
+#include <algorithm>
+
 #include "platform/controls/form.h"
 
 namespace pantrigo {
@@ -21,6 +23,11 @@ void CaptionedControl::reset() {
 void CaptionedControl::sealDesign() {
   Control::sealDesign();
   designCaption_ = caption_;
+}
+
+bool MenuEntry::isMenu() const {
+  const std::vector<Control*>& all = form().controls();
+  return std::any_of(all.begin(), all.end(), [this](const Control* control) { return control->container() == this; });
 }
 
 void CheckBox::setValue(bool value) {

@@ -51,6 +51,8 @@ class MenuEntry : public CaptionedControl {
       : CaptionedControl(holder, ControlKind::MenuEntry, name, caption, {}) {}
   [[nodiscard]] operator Holder() { return {form(), this}; }
   [[nodiscard]] bool isSeparator() const { return Caption() == "-"; }
+  /// Whether it holds entries of its own.
+  [[nodiscard]] bool isMenu() const;
 };
 
 /// A check box; a change of its value, also by code, raises `Click`.

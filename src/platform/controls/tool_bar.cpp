@@ -49,6 +49,8 @@ void ToolBar::setButtonSize(double width, int imageList) {
 void ToolBar::reset() {
   Control::reset();
   buttons_ = designButtons_;
+  buttonWidth_ = smallButtonWidth;
+  imageList_ = 0;
 }
 
 void ToolBar::sealDesign() {

@@ -17,6 +17,10 @@ struct ToolButton {
   int value = 0;
 };
 
+/// Width of a tool bar button with the small pictures and with the large ones, in twips.
+inline constexpr double smallButtonWidth = 585.0715;
+inline constexpr double largeButtonWidth = 705.26;
+
 /// A row of buttons, found by their keys.
 class ToolBar : public Control {
  public:
@@ -50,7 +54,7 @@ class ToolBar : public Control {
 
   std::vector<ToolButton> buttons_;
   std::vector<ToolButton> designButtons_;
-  double buttonWidth_ = 585.0715;
+  double buttonWidth_ = smallButtonWidth;
   int imageList_ = 0;
 };
 

@@ -70,7 +70,9 @@ void Windows::activate(Form& form) {
   order_.push_back(&form);
   if (left != nullptr && left->visible_ && left->focus_ != nullptr) left->focus_->LostFocus();
   loop_.toolkit().activateView(form);
+  activating_ = &form;
   form.Activate();
+  activating_ = nullptr;
   if (active_ != &form) return;
   if (form.focus_ == nullptr || !form.focus_->reachable()) form.focus_ = form.nextReachable(form.focus_);
   if (form.listener_ != nullptr) form.listener_->focusChanged();
@@ -82,7 +84,8 @@ void Windows::moveFocus(Control& control) {
   Control* left = form.focus_;
   if (left == &control) return;
   form.focus_ = &control;
-  if (active_ != &form) return;
+  // A focus set while the form is being activated is told once, behind `Form_Activate`.
+  if (active_ != &form || activating_ == &form) return;
   if (left != nullptr) left->LostFocus();
   if (form.focus_ != &control) return;
   if (form.listener_ != nullptr) form.listener_->focusChanged();
@@ -99,11 +102,13 @@ void Windows::SetFocus(Control& control) {
   activate(control.form());
 }
 
-void Windows::focusLost(Control& control) {
-  Form& form = control.form();
+void Windows::focusLost(Form& form) {
   if (active_ != &form || form.focus_ == nullptr || form.focus_->reachable()) return;
-  Control* next = form.nextReachable(form.focus_);
-  if (next != nullptr) moveFocus(*next);
+  if (Control* next = form.nextReachable(form.focus_)) {
+    moveFocus(*next);
+  } else {
+    form.focus_ = nullptr;
+  }
 }
 
 bool Windows::blocked(const Form& form) const { return !modal_.empty() && modal_.back() != &form; }
@@ -129,6 +134,7 @@ void Windows::userCloses(Form& form) {
 
 void Windows::userMinimises(Form& form, bool minimised) {
   if (form.minimised_ == minimised) return;
+  if (minimised) activate(form);
   form.minimised_ = minimised;
   form.Resize();
 }

@@ -49,11 +49,13 @@ class Windows {
   void activate(Form& form);
   void activateBelow();
   void moveFocus(Control& control);
-  void focusLost(Control& control);
+  /// A control of the form was hidden or disabled: the focus goes on when it can't stay.
+  void focusLost(Form& form);
   void takeOff(Form& form);
 
   EventLoop& loop_;
   Form* active_ = nullptr;
+  Form* activating_ = nullptr;
   std::vector<Form*> order_;
   std::vector<Form*> modal_;
 };

@@ -49,7 +49,10 @@ TEST_F(MakeStoreTest, AnExistingFileIsNeverOverwritten) {
   EXPECT_EQ(content, "precious");
 }
 
-TEST_F(MakeStoreTest, AMissingExchangeFileIsAnError) { EXPECT_EQ(errorOf({store_, {}, folder_ / "none.txt"}), 53); }
+TEST_F(MakeStoreTest, AMissingExchangeFileIsAnErrorAndLeavesNoStore) {
+  EXPECT_EQ(errorOf({store_, {}, folder_ / "none.txt"}), 53);
+  EXPECT_FALSE(fs::exists(store_));
+}
 
 TEST_F(MakeStoreTest, ALineThatIsNoUnitWordIsAnError) {
   std::ofstream(folder_ / "units.txt") << "m\tmL\njust words\n";

@@ -1,0 +1,14 @@
+#include "core/layout.h"
+#include "program/wiring.h"
+
+namespace pantrigo {
+
+void wireFrmOven(Run& run) {
+  run.frmOven.Load = [&run] { centreForm(run, run.frmOven); };
+  run.frmOven.cmdCancel.Click = [&run] {
+    run.GLOBAL.gKeepDetailOnActivate = true;
+    run.windows.Unload(run.frmOven);
+  };
+}
+
+}  // namespace pantrigo
