@@ -117,7 +117,8 @@ case("on screen the imperial words are short", function()
 end)
 
 case("a damaged memo shows what can be read", function()
-  equal(shown("1~bag~flour~~1~bag~2~cup"), { "1 bag flour", }, "text behind the last mark is dropped")
+  equal(shown("1~bag~flour~~1~bag~2~cup"), { "1 bag flour", "" },
+    "the second row has a base quantity and nothing to show, and the text behind the last mark is dropped")
 end)
 
 case("an unreadable quantity shows unit, description and note", function()
