@@ -30,6 +30,25 @@ bool isAscii(char byte) {
   return static_cast<unsigned char>(byte) < firstBeyondAscii;
 }
 
+/// A text of plain ASCII, which is most of what a cookbook holds: its bytes are its characters, and fold in place.
+class AsciiText {
+ public:
+  explicit AsciiText(std::string_view text) : text_(text) {}
+  [[nodiscard]] std::size_t size() const { return text_.size(); }
+  [[nodiscard]] char32_t operator[](std::size_t place) const {
+    return asciiFolding[static_cast<unsigned char>(text_[place])];
+  }
+
+ private:
+  std::string_view text_;
+};
+
+bool isAllAscii(std::string_view text) {
+  unsigned char bits = 0;
+  for (const char byte : text) bits |= static_cast<unsigned char>(byte);
+  return bits < firstBeyondAscii;
+}
+
 /// The characters of the text, folded so that letters that differ only in case are equal.
 std::u32string folded(std::string_view text) {
   std::u32string result;
@@ -107,7 +126,8 @@ bool LikePattern::fits(const Element& element, char32_t character) {
   return false;
 }
 
-bool LikePattern::fitsAt(const Piece& piece, std::u32string_view text, std::size_t place) {
+template <class Text>
+bool LikePattern::fitsAt(const Piece& piece, const Text& text, std::size_t place) {
   for (const Element& element : piece) {
     if (!fits(element, text[place++])) return false;
   }
@@ -115,15 +135,20 @@ bool LikePattern::fitsAt(const Piece& piece, std::u32string_view text, std::size
 }
 
 /// The first place from `from` on where the piece fits before `end`; npos when there is none.
-std::size_t LikePattern::find(const Piece& piece, std::u32string_view text, std::size_t from, std::size_t end) {
+template <class Text>
+std::size_t LikePattern::find(const Piece& piece, const Text& text, std::size_t from, std::size_t end) {
+  if (piece.empty()) return from;
+  const Element& first = piece.front();
+  const bool startsPlain = first.kind == Element::Kind::Character;
   for (std::size_t place = from; place + piece.size() <= end; ++place) {
+    if (startsPlain && text[place] != first.character) continue;
     if (fitsAt(piece, text, place)) return place;
   }
   return std::u32string_view::npos;
 }
 
-bool LikePattern::matches(std::string_view text) const {
-  const std::u32string characters = folded(text);
+template <class Text>
+bool LikePattern::matchesWhole(const Text& characters) const {
   const Piece& first = pieces_.front();
   const Piece& last = pieces_.back();
   if (pieces_.size() == 1) return characters.size() == first.size() && fitsAt(first, characters, 0);
@@ -138,6 +163,10 @@ bool LikePattern::matches(std::string_view text) const {
     place += pieces_[number].size();
   }
   return true;
+}
+
+bool LikePattern::matches(std::string_view text) const {
+  return isAllAscii(text) ? matchesWhole(AsciiText(text)) : matchesWhole(folded(text));
 }
 
 }  // namespace pantrigo

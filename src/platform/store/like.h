@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <string_view>
 #include <vector>
 
@@ -33,8 +34,13 @@ class LikePattern {
 
   void addList(std::u32string_view list);
   static bool fits(const Element& element, char32_t character);
-  static bool fitsAt(const Piece& piece, std::u32string_view text, std::size_t place);
-  static std::size_t find(const Piece& piece, std::u32string_view text, std::size_t from, std::size_t end);
+  // A text here is anything that gives its folded characters by their places.
+  template <class Text>
+  static bool fitsAt(const Piece& piece, const Text& text, std::size_t place);
+  template <class Text>
+  static std::size_t find(const Piece& piece, const Text& text, std::size_t from, std::size_t end);
+  template <class Text>
+  [[nodiscard]] bool matchesWhole(const Text& text) const;
 
   /// The parts between the "*"; a pattern without any has one.
   std::vector<Piece> pieces_;

@@ -7,6 +7,7 @@
 #include "platform/store/sql_functions.h"
 #include "platform/store/store_errors.h"
 #include "platform/text/errors.h"
+#include "platform/text/numbers.h"
 
 namespace pantrigo {
 
@@ -117,9 +118,10 @@ class ConditionWriter {
     return std::visit([this](const auto& content) { return parameter(content); }, literal);
   }
 
-  std::string parameter(EngineText::Parameter value) {
-    text_.parameters.push_back(std::move(value));
-    return "?" + std::to_string(text_.parameters.size());
+  template <class Content>
+  std::string parameter(Content content) {
+    text_.parameters.emplace_back(std::move(content));
+    return "?" + plainText(static_cast<long>(text_.parameters.size()));
   }
 
   EngineText& text_;

@@ -5,6 +5,7 @@
 #include "platform/store/schema_sql.h"
 #include "platform/text/collation.h"
 #include "platform/text/errors.h"
+#include "platform/text/numbers.h"
 
 namespace pantrigo {
 
@@ -58,8 +59,8 @@ void writeSystemRow(Connection& connection) {
 }  // namespace
 
 void makeSchema(Connection& connection) {
-  connection.execute(("PRAGMA application_id=" + std::to_string(storeApplicationId)).c_str());
-  connection.execute(("PRAGMA user_version=" + std::to_string(storeSchemaVersion)).c_str());
+  connection.execute(("PRAGMA application_id=" + plainText(static_cast<long>(storeApplicationId))).c_str());
+  connection.execute(("PRAGMA user_version=" + plainText(static_cast<long>(storeSchemaVersion))).c_str());
   Transaction transaction(connection);
   for (const TableDescription& table : storeTables()) {
     connection.execute(createTableText(table).c_str());

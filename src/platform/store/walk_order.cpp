@@ -4,6 +4,7 @@
 
 #include "platform/store/field_values.h"
 #include "platform/store/schema_sql.h"
+#include "platform/text/numbers.h"
 
 namespace pantrigo {
 
@@ -16,6 +17,10 @@ bool hasMemo(const TableDescription& table) {
     if (field.type == FieldType::Memo) return true;
   }
   return false;
+}
+
+std::string parameter(int number) {
+  return "?" + plainText(static_cast<long>(number));
 }
 
 /// The lowest value that a key field can have above Null.
@@ -69,7 +74,7 @@ std::string WalkOrder::orderText(int fixedKeys) const {
 Statement& WalkOrder::sameKeyStatement() {
   if (sameKey_ == nullptr) {
     std::string text = selectText() + " WHERE ";
-    for (int key = 0; key < keyCount_; ++key) text += keyName(key) + " IS ?" + std::to_string(3 + key) + " AND ";
+    for (int key = 0; key < keyCount_; ++key) text += keyName(key) + " IS " + parameter(3 + key) + " AND ";
     sameKey_ = &connection_.statement(text + rowNumberColumn + " > ?2" + orderText(keyCount_));
   }
   return *sameKey_;
@@ -80,8 +85,8 @@ Statement& WalkOrder::aboveStatement(int key, bool orEqual) {
   Statement*& statement = above_[static_cast<std::size_t>(key)][orEqual ? 1 : 0];
   if (statement == nullptr) {
     std::string text = selectText() + " WHERE ";
-    for (int fixed = 0; fixed < key; ++fixed) text += keyName(fixed) + " IS ?" + std::to_string(2 + fixed) + " AND ";
-    text += keyName(key) + (orEqual ? " >= ?" : " > ?") + std::to_string(2 + key);
+    for (int fixed = 0; fixed < key; ++fixed) text += keyName(fixed) + " IS " + parameter(2 + fixed) + " AND ";
+    text += keyName(key) + (orEqual ? " >= " : " > ") + parameter(2 + key);
     statement = &connection_.statement(text + orderText(key));
   }
   return *statement;

@@ -1,4 +1,5 @@
 #include <gtest/gtest.h>
+#include <unistd.h>
 
 #include <algorithm>
 
@@ -79,6 +80,13 @@ TEST_F(OpeningTest, CutOffStoreIsNoDatabase) {
 
 TEST_F(OpeningTest, FolderCannotBeOpened) {
   fs::create_directory(file());
+  EXPECT_EQ(openingError(), 3051);
+}
+
+TEST_F(OpeningTest, FileThatMayNotBeReadCannotBeOpened) {
+  if (geteuid() == 0) GTEST_SKIP() << "a superuser may read every file";
+  makeStore();
+  fs::permissions(file(), fs::perms::none);
   EXPECT_EQ(openingError(), 3051);
 }
 
