@@ -238,6 +238,7 @@ void FormView::present(Modality modality, QWidget* over) {
 }
 
 void FormView::activate() {
+  if (minimising_) return;
   if (isMinimized()) showNormal();
   raise();
   activateWindow();
@@ -365,6 +366,7 @@ void FormView::closeEvent(QCloseEvent* event) {
 void FormView::changeEvent(QEvent* event) {
   QWidget::changeEvent(event);
   if (event->type() != QEvent::WindowStateChange || !isVisible()) return;
+  const QScopedValueRollback guard(minimising_, isMinimized());
   host_.dispatch([this](Windows& windows) { windows.userMinimises(form_, isMinimized()); });
 }
 

@@ -76,6 +76,8 @@ class FormView : public QWidget, private FormListener {
   std::map<const Control*, std::unique_ptr<Binding>> bindings_;
   std::map<const QObject*, Binding*> focusWidgets_;
   bool laidOut_ = false;
+  /// While the program does what belongs to the window's being minimised; nothing brings the window back then.
+  bool minimising_ = false;
   /// Above 0 while the window is being changed by the program, so that what the toolkit does about the focus then is not taken for a person's doing.
   int changing_ = 0;
 };

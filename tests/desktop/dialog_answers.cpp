@@ -32,6 +32,10 @@ bool DialogAnswers::eventFilter(QObject* watched, QEvent* event) {
 
 void DialogAnswers::answerBox(QMessageBox& box) {
   seen_.push_back({box.text().toStdString(), box.windowTitle().toStdString()});
+  if (boxAction_) {
+    std::exchange(boxAction_, nullptr)();
+    return;
+  }
   std::string wanted = "Esc";
   if (!answers_.empty()) {
     wanted = answers_.front();

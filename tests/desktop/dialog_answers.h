@@ -26,6 +26,8 @@ class DialogAnswers : public QObject {
 
   /// The caption of the button that the next box is answered by ("Yes", "No", "OK"), or "Esc".
   void answer(std::string button) { answers_.push_back(std::move(button)); }
+  /// What is done while the next box stands open, in place of an answer.
+  void whenBoxShown(std::function<void()> action) { boxAction_ = std::move(action); }
   /// What is done once the window of that form has come up.
   void whenShown(const std::string& form, std::function<void()> action) { actions_[form] = std::move(action); }
 
@@ -38,6 +40,7 @@ class DialogAnswers : public QObject {
   void answerBox(QMessageBox& box);
 
   std::deque<std::string> answers_;
+  std::function<void()> boxAction_;
   std::map<std::string, std::function<void()>> actions_;
   std::vector<SeenBox> seen_;
 };

@@ -207,6 +207,28 @@ TEST_F(WindowsTest, ClosingTheMainWindowEndsADialogToo) {
   EXPECT_TRUE(desktop().program().ended());
 }
 
+TEST_F(WindowsTest, ClosingTheMainWindowEndsAQuestionToo) {
+  start();
+  open(0);
+  run().GLOBAL.gDetailChanged = true;
+  dialogs.whenBoxShown([this] { desktop().close(); });
+  press(run().frmDetail, Qt::Key_Escape);
+  EXPECT_EQ(dialogs.boxes().size(), 1u);
+  EXPECT_TRUE(desktop().program().ended());
+  EXPECT_EQ(desktop().program().exitStatus(), 0);
+}
+
+TEST_F(WindowsTest, MinimisingTheMainWindowHidesTheOther) {
+  start();
+  open(0);
+  window(run().frmBrowse).showMinimized();
+  QTest::qWait(20);
+  EXPECT_FALSE(run().frmDetail.Visible());
+  EXPECT_TRUE(run().frmDetail.Loaded());
+  EXPECT_TRUE(window(run().frmBrowse).isMinimized());
+  EXPECT_FALSE(desktop().program().ended());
+}
+
 TEST_F(WindowsTest, AMissingStoreIsReportedAndEndsTheRun) {
   std::filesystem::remove(path() / "PANTRIGO.MDB");
   Desktop without(path());
