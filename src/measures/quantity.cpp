@@ -1,8 +1,10 @@
 #include "measures/quantity.h"
 
 #include <cmath>
+#include <limits>
 #include <span>
 
+#include "platform/text/errors.h"
 #include "platform/text/format.h"
 #include "platform/text/letters.h"
 #include "platform/text/numbers.h"
@@ -11,6 +13,8 @@
 namespace pantrigo {
 
 namespace {
+
+constexpr int overflow = 6;
 
 /// A fraction that can be typed, and the decimal text that it turns into.
 struct Fraction {
@@ -115,6 +119,11 @@ std::string funFractionToDecimal(std::string_view text) {
 
 double quantityAmount(std::string_view text) {
   return text.find('/') == std::string_view::npos ? Val(text) : Val(funFractionToDecimal(text));
+}
+
+float toSingle(double number) {
+  if (!(std::fabs(number) <= std::numeric_limits<float>::max())) throw RuntimeError(overflow);
+  return static_cast<float>(number);
 }
 
 std::string funPartFraction(Run& run, float amount) {

@@ -14,6 +14,9 @@ namespace pantrigo {
 /// The amount of a quantity text: the leading number of the text when it holds no "/", else of its decimal text.
 [[nodiscard]] double quantityAmount(std::string_view text);
 
+/// The number as a single. Error 6 for one that no single holds.
+[[nodiscard]] float toSingle(double number);
+
 /// Rounds the part behind the whole number up to the step chosen in the options. Gives "0", "1" (the next whole number), or the part
 /// as a fraction, respectively as a decimal text.
 [[nodiscard]] std::string funPartFraction(Run& run, float amount);

@@ -6,6 +6,7 @@
 #include "measures/ingredient_rows.h"
 #include "measures/quantity.h"
 #include "measures/unit_ladder.h"
+#include "platform/text/errors.h"
 #include "platform/text/letters.h"
 #include "platform/text/numbers.h"
 
@@ -59,14 +60,14 @@ float scaleFactor(Run& run, std::string_view mode, const Value& makes) {
   if (scaled) {
     guarded([&] {
       const Value& stored = run.GLOBAL.gRecipe.Field("Serves");
-      if (!stored.isNull()) serves = static_cast<float>(Val(stored.text()));
+      if (!stored.isNull()) serves = toSingle(Val(stored.text()));
     });
   }
   if (serves <= 0) return 1;
   float factor = 1;
   guarded([&] {
     const Value& settings = system.Field("Settings");
-    if (!settings.isNull()) factor = static_cast<float>(settings.number() / serves);
+    if (!settings.isNull()) factor = toSingle(settings.number() / serves);
   });
   return factor;
 }
@@ -91,8 +92,8 @@ void convertToBase(Run& run, IngredientRow& row, std::string_view mode) {
 /// From the base amount in columns 1 and 2 to the written quantity and the unit word.
 void writeAmount(Run& run, const IngredientRow& row, float factor) {
   Global& global = run.GLOBAL;
-  global.gWorkQuantity = static_cast<float>(quantityAmount(row[1]));
-  global.gWorkQuantity = global.gWorkQuantity * factor;
+  guarded([&] { global.gWorkQuantity = toSingle(quantityAmount(row[1])); });
+  guarded([&] { global.gWorkQuantity = toSingle(static_cast<double>(global.gWorkQuantity) * factor); });
   global.gWorkUnit = row[2];
   guarded([&] { subConvertSystem(run, global.gWorkUnit, global.gWorkQuantity); });
   guarded([&] {

@@ -1,10 +1,12 @@
 #include "measures/unit_ladder.h"
 
 #include <algorithm>
-#include <array>
+#include <cmath>
 #include <optional>
 #include <span>
 
+#include "measures/quantity.h"
+#include "platform/text/errors.h"
 #include "platform/text/numbers.h"
 
 namespace pantrigo {
@@ -104,9 +106,18 @@ constexpr Division centiDivisions[] = {{"cg", 100, "g"}, {"cm", 10, "mm"}, {"cL"
 /// A Cup or Tablespoon that a rule needs. Error 94 when it was left empty.
 double neededNumber(const Value& value) { return value.number(); }
 
+constexpr int overflow = 6;
+constexpr int divisionByZero = 11;
+
 double divided(double dividend, double divisor) {
-  if (divisor == 0) throw RuntimeError(dividend == 0 ? 6 : 11);
+  if (divisor == 0) throw RuntimeError(dividend == 0 ? overflow : divisionByZero);
   return dividend / divisor;
+}
+
+double multiplied(double amount, double factor) {
+  const double product = amount * factor;
+  if (!std::isfinite(product)) throw RuntimeError(overflow);
+  return product;
 }
 
 /// A number compares as such; an empty quantity is not below 1; any other text that is no number is error 13.
@@ -196,12 +207,12 @@ void subConvertToBase(Run& run, std::string& unit, Value& quantity, const Value&
   if (keepOriginal && belowOne && mode != "l" && keepsOriginal(run, unit, quantity, measurement)) return;
   for (const Factor& rule : downFactors) {
     if (rule.unit != unit) continue;
-    quantity = quantity.number() * rule.factor;
+    quantity = multiplied(quantity.number(), rule.factor);
     unit = rule.result;
     return;
   }
   if (const std::optional<double> factor = spoonFactor(unit, cup, tablespoon, measurement)) {
-    quantity = quantity.number() * *factor;
+    quantity = multiplied(quantity.number(), *factor);
     unit = run.GLOBAL.gConvertCupSpoon == "1" ? "mL" : "pgx";
   }
 }
@@ -211,7 +222,7 @@ void subConvertSystem(Run& run, std::string& unit, float& quantity) {
   const std::string measurement = run.GLOBAL.gSystem.Field("Measurement").text();
   for (const SystemFactor& rule : systemFactors) {
     if (rule.measurement != measurement || rule.unit != unit) continue;
-    quantity = static_cast<float>(quantity * rule.factor);
+    quantity = toSingle(quantity * rule.factor);
     unit = rule.result;
     return;
   }
