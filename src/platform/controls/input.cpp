@@ -1,12 +1,24 @@
 #include "platform/controls/input.h"
 
+#include <vector>
+
+#include "platform/text/utf8.h"
+
 namespace pantrigo {
 
 namespace {
 
-void raiseMouseDown(Windows& windows, Control& control, MouseButton button) {
+/// Whether the events before have left the control where a person can reach it.
+bool stillThere(const Control& control) {
+  return control.form().Visible() && control.reachable();
+}
+
+/// The press of a mouse button. Gives whether the control is there for what the press goes on to do.
+bool pressed(Windows& windows, Control& control, MouseButton button) {
   windows.userFocuses(control);
-  if (control.reachable()) control.MouseDown(button);
+  if (!stillThere(control)) return false;
+  control.MouseDown(button);
+  return stillThere(control);
 }
 
 void invokeClick(Control& control) {
@@ -27,18 +39,17 @@ void invokeClick(Control& control) {
 }  // namespace
 
 void userClicks(Windows& windows, Control& control) {
-  windows.userFocuses(control);
-  if (!control.reachable()) return;
-  control.MouseDown(leftButton);
-  invokeClick(control);
+  if (pressed(windows, control, leftButton)) invokeClick(control);
 }
 
 void userDoubleClicks(Windows& windows, Control& control) {
-  raiseMouseDown(windows, control, leftButton);
-  control.DblClick();
+  if (stillThere(control)) windows.userFocuses(control);
+  if (stillThere(control)) control.DblClick();
 }
 
-void userPresses(Windows& windows, Control& control, MouseButton button) { raiseMouseDown(windows, control, button); }
+void userPresses(Windows& windows, Control& control, MouseButton button) {
+  pressed(windows, control, button);
+}
 
 void userEdits(Windows& windows, TextBox& box, std::string_view text) {
   windows.userFocuses(box);
@@ -47,17 +58,62 @@ void userEdits(Windows& windows, TextBox& box, std::string_view text) {
 
 void userEdits(Windows& windows, ComboBox& box, std::string_view text) {
   windows.userFocuses(box);
-  box.typeText(text);
+  box.setText(text);
+}
+
+namespace {
+
+/// What each keystroke of a typed text puts into a box: a character, or a whole line end.
+std::vector<std::string> keystrokes(std::string_view text, Lines lines) {
+  std::vector<std::string> keys;
+  bool afterReturn = false;
+  for (std::string& character : characters(text)) {
+    const bool lineFeed = character == "\n";
+    const bool lineEnd = lineFeed || character == "\r";
+    if (!lineEnd) {
+      keys.push_back(std::move(character));
+    } else if (lines == Lines::Many && !(lineFeed && afterReturn)) {
+      keys.emplace_back("\r\n");
+    }
+    afterReturn = lineEnd && !lineFeed;
+  }
+  return keys;
+}
+
+bool takesKeys(const Windows& windows, const Control& control) {
+  return windows.active() == &control.form() && control.form().ActiveControl() == &control && stillThere(control);
+}
+
+template <class Box>
+void typeInto(Windows& windows, Box& box, std::string_view text, Lines lines) {
+  windows.userFocuses(box);
+  if (text.empty() && takesKeys(windows, box) && !box.Text().empty()) box.typeText("");
+  std::string typed;
+  for (const std::string& key : keystrokes(text, lines)) {
+    if (!takesKeys(windows, box)) return;
+    std::string after = typed + key;
+    if (box.MaxLength() > 0 && Len(after) > box.MaxLength()) continue;
+    box.typeText(after);
+    typed = box.Text();
+  }
+}
+
+}  // namespace
+
+void userTypes(Windows& windows, TextBox& box, std::string_view text) {
+  typeInto(windows, box, text, box.lines());
+}
+
+void userTypes(Windows& windows, ComboBox& box, std::string_view text) {
+  typeInto(windows, box, text, Lines::One);
 }
 
 void userPicks(Windows& windows, ComboBox& box, int row) {
-  raiseMouseDown(windows, box, leftButton);
-  box.setListIndex(row);
+  if (pressed(windows, box, leftButton)) box.setListIndex(row);
 }
 
 void userPicks(Windows& windows, ListBox& list, int row) {
-  raiseMouseDown(windows, list, leftButton);
-  userMovesTo(windows, list, row);
+  if (pressed(windows, list, leftButton)) userMovesTo(windows, list, row);
 }
 
 void userMovesTo(Windows& windows, ListBox& list, int row) {
@@ -70,7 +126,7 @@ void userMovesTo(Windows& windows, ListBox& list, int row) {
 }
 
 void userToggles(Windows& windows, ListBox& list, int row) {
-  raiseMouseDown(windows, list, leftButton);
+  if (!pressed(windows, list, leftButton)) return;
   list.setSelected(row, !list.Selected(row));
   list.Click();
 }

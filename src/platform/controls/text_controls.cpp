@@ -10,7 +10,10 @@ TextBox::TextBox(Holder holder, std::string_view name, Box box, std::size_t maxL
       alignment_(alignment) {}
 
 void TextBox::setText(std::string_view text) {
-  if (text_ == text) return;
+  if (text_ != text) typeText(text);
+}
+
+void TextBox::typeText(std::string_view text) {
   text_ = text;
   changed(Aspect::Text);
   Change();
@@ -43,16 +46,14 @@ ComboBox::ComboBox(Holder holder, std::string_view name, Box box, std::size_t ma
     : Control(holder, ControlKind::ComboBox, name, box), maxLength_(maxLength) {}
 
 void ComboBox::setText(std::string_view text) {
-  if (text_ == text) return;
-  text_ = text;
-  listIndex_ = -1;
-  changed(Aspect::Text);
-  Change();
+  if (text_ != text) typeText(text);
 }
 
 void ComboBox::typeText(std::string_view text) {
   listIndex_ = -1;
-  setText(text);
+  text_ = text;
+  changed(Aspect::Text);
+  Change();
 }
 
 std::string ComboBox::List(int row) const {

@@ -11,8 +11,8 @@ namespace pantrigo {
 enum class Lines { One, Many };
 enum class Alignment { Left, Right };
 
-/// A box that is typed into. Setting its text by code raises `Change` when the text differs, and never cuts it; `MaxLength`
-/// (characters, 0 for no limit) bounds what is typed or pasted.
+/// A box that is typed into. Setting its text by code raises `Change` when the text differs, and never cuts it;
+/// `MaxLength` (characters, 0 for no limit) bounds what is typed or pasted.
 class TextBox : public Control {
  public:
   TextBox(Holder holder, std::string_view name, Box box, std::size_t maxLength = 0, Lines lines = Lines::One,
@@ -20,6 +20,8 @@ class TextBox : public Control {
 
   [[nodiscard]] const std::string& Text() const { return text_; }
   void setText(std::string_view text);
+  /// Takes a text as a keystroke left it: raises `Change` also when it is the same as before.
+  void typeText(std::string_view text);
 
   [[nodiscard]] std::size_t MaxLength() const { return maxLength_; }
   void setMaxLength(std::size_t characters);
@@ -45,15 +47,15 @@ class TextBox : public Control {
   Alignment alignment_;
 };
 
-/// A combo box that takes a typed text as well as a pick from its rows. A text set by code raises `Change` when it differs;
-/// a row picked, also by code, puts its text into the box and raises `Click`.
+/// A combo box that takes a typed text as well as a pick from its rows. A text set by code raises `Change` when it
+/// differs; a row picked, also by code, puts its text into the box and raises `Click`.
 class ComboBox : public Control {
  public:
   ComboBox(Holder holder, std::string_view name, Box box, std::size_t maxLength = 0);
 
   [[nodiscard]] const std::string& Text() const { return text_; }
   void setText(std::string_view text);
-  /// Takes a text as typed: as `setText`, and no row stays picked.
+  /// Takes a text as a keystroke left it: raises `Change` also when it is the same as before, and no row stays picked.
   void typeText(std::string_view text);
   [[nodiscard]] std::size_t MaxLength() const { return maxLength_; }
 
