@@ -1,0 +1,104 @@
+#include "platform/text/collation.h"
+#include "support/bindings.h"
+#include "support/script.h"
+
+namespace pantrigo {
+
+namespace {
+
+/// Fields of a row from a table of the script.
+RawRow toRow(lua_State* lua, int place) {
+  if (!lua_istable(lua, place)) throw ScriptError("a table of fields expected, got " + shown(lua, place));
+  RawRow row;
+  lua_pushnil(lua);
+  while (lua_next(lua, place) != 0) {
+    if (lua_type(lua, -2) != LUA_TSTRING) throw ScriptError("the name of a field expected, got " + shown(lua, -2));
+    row[toText(lua, -2)] = toValue(lua, -1);
+    lua_pop(lua, 1);
+  }
+  return row;
+}
+
+void pushRow(lua_State* lua, const RawRow& row) {
+  lua_createtable(lua, 0, static_cast<int>(row.size()));
+  for (const auto& [name, value] : row) setField(lua, name.c_str(), value);
+}
+
+int createStore(lua_State* lua, ScenarioCase& scenario) {
+  scenario.createStore(lua_isnoneornil(lua, 1) ? RawRow() : toRow(lua, 1));
+  return 0;
+}
+
+int addRow(lua_State* lua, ScenarioCase& scenario) {
+  addRawRow(scenario.database(), toText(lua, 1), toRow(lua, 2));
+  return 0;
+}
+
+int rows(lua_State* lua, ScenarioCase& scenario) {
+  const std::vector<RawRow> all = rawRows(scenario.database(), toText(lua, 1));
+  lua_createtable(lua, static_cast<int>(all.size()), 0);
+  lua_Integer place = 0;
+  for (const RawRow& row : all) {
+    pushRow(lua, row);
+    lua_rawseti(lua, -2, ++place);
+  }
+  return 1;
+}
+
+/// A field of a row, whatever the case of its name.
+const Value& fieldOf(const RawRow& row, const std::string& name) {
+  for (const auto& [field, value] : row) {
+    if (collate(field, name) == 0) return value;
+  }
+  throw ScriptError("there is no field " + name);
+}
+
+int row(lua_State* lua, ScenarioCase& scenario) {
+  const std::string field = toText(lua, 2);
+  const Value value = toValue(lua, 3);
+  for (const RawRow& candidate : rawRows(scenario.database(), toText(lua, 1))) {
+    if (fieldOf(candidate, field) != value) continue;
+    pushRow(lua, candidate);
+    return 1;
+  }
+  lua_pushnil(lua);
+  return 1;
+}
+
+int changeRows(lua_State* lua, ScenarioCase& scenario) {
+  changeRawRows(scenario.database(), toText(lua, 1), toText(lua, 2), toValue(lua, 3), toRow(lua, 4));
+  return 0;
+}
+
+int removeRows(lua_State* lua, ScenarioCase& scenario) {
+  removeRawRows(scenario.database(), toText(lua, 1), toText(lua, 2), toValue(lua, 3));
+  return 0;
+}
+
+/// Reads the row of options, or changes it.
+int system(lua_State* lua, ScenarioCase& scenario) {
+  if (lua_isnoneornil(lua, 1)) {
+    pushRow(lua, rawRows(scenario.database(), "System").at(0));
+    return 1;
+  }
+  changeSystem(scenario.database(), toRow(lua, 1));
+  return 0;
+}
+
+constexpr luaL_Reg words[] = {
+    {"create", withinCase<createStore>}, {"add", withinCase<addRow>},
+    {"rows", withinCase<rows>},          {"row", withinCase<row>},
+    {"set", withinCase<changeRows>},     {"remove", withinCase<removeRows>},
+    {"system", withinCase<system>},      {nullptr, nullptr},
+};
+
+}  // namespace
+
+void bindStore(lua_State* lua) {
+  luaL_newlib(lua, words);
+  pushNullMark(lua);
+  lua_setfield(lua, -2, "Null");
+  lua_setglobal(lua, "store");
+}
+
+}  // namespace pantrigo

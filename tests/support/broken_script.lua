@@ -1,0 +1,3 @@
+-- A script that is none.
+
+case("no end"

@@ -1,0 +1,1 @@
+-- A script without a case.
