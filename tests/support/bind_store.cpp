@@ -1,4 +1,5 @@
-#include "platform/text/collation.h"
+#include "platform/store/schema.h"
+#include "platform/text/letters.h"
 #include "support/bindings.h"
 #include "support/script.h"
 
@@ -45,19 +46,22 @@ int rows(lua_State* lua, ScenarioCase& scenario) {
   return 1;
 }
 
-/// A field of a row, whatever the case of its name.
-const Value& fieldOf(const RawRow& row, const std::string& name) {
-  for (const auto& [field, value] : row) {
-    if (collate(field, name) == 0) return value;
+/// The field of a table, in the spelling of the store.
+std::string fieldNamed(const std::string& table, const std::string& name) {
+  const TableDescription* description = findTable(table);
+  if (description == nullptr) throw ScriptError("there is no table " + table);
+  for (const FieldDescription& field : description->fields) {
+    if (LCase(field.name) == LCase(name)) return std::string(field.name);
   }
-  throw ScriptError("there is no field " + name);
+  throw ScriptError(table + " has no field " + name);
 }
 
 int row(lua_State* lua, ScenarioCase& scenario) {
-  const std::string field = toText(lua, 2);
+  const std::string table = toText(lua, 1);
+  const std::string field = fieldNamed(table, toText(lua, 2));
   const Value value = toValue(lua, 3);
-  for (const RawRow& candidate : rawRows(scenario.database(), toText(lua, 1))) {
-    if (fieldOf(candidate, field) != value) continue;
+  for (const RawRow& candidate : rawRows(scenario.database(), table)) {
+    if (candidate.at(field) != value) continue;
     pushRow(lua, candidate);
     return 1;
   }

@@ -1,0 +1,41 @@
+-- What is printed.
+
+local function print_rows(...)
+  GLOBAL.rows({ ... })
+  GLOBAL.subShowIngredients("p", false)
+end
+
+local function begin()
+  store.create()
+  store.add("Recipe", { RecipeId = 1, Title = "Apple Pie", Serves = 4 })
+  start()
+  frmBrowse.lstTitles:DblClick(0)
+end
+
+case("lines come in order with their columns, once", function()
+  begin()
+  print_rows({ "", "", "apples", "", "2", "" }, { "", "", "FOR THE TOP", "", "", "" })
+  local lines = printer.lines()
+  equal(#lines, 2)
+  equal(lines[1], { text = string.rep(" ", 16) .. "2 apples", bold = false, size = 10, page = 1, job = 1 })
+  equal(lines[2].text, string.rep(" ", 16) .. "FOR THE TOP")
+  equal(printer.lines(), {})
+end)
+
+case("a job stays open until its document ends, at the latest with the program", function()
+  begin()
+  equal(printer.open(), false)
+  equal(printer.jobs(), 0)
+  print_rows({ "", "", "apples", "", "2", "" })
+  equal(printer.open(), true)
+  equal(printer.jobs(), 0)
+  stop()
+  equal(printer.open(), false)
+  equal(printer.jobs(), 1)
+  start()
+  frmBrowse.lstTitles:DblClick(0)
+  print_rows({ "", "", "pears", "", "2", "" })
+  local lines = printer.lines()
+  equal(lines[1].job, 1)
+  equal(lines[2].job, 2)
+end)
