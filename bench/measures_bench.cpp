@@ -5,7 +5,7 @@
 #include "large_store.h"
 #include "measures/show_ingredients.h"
 #include "program/program.h"
-#include "quiet_toolkit.h"
+#include "support/quiet_toolkit.h"
 
 namespace pantrigo::bench {
 namespace {

@@ -3,7 +3,7 @@
 #include "large_store.h"
 #include "plain_sqlite.h"
 #include "program/program.h"
-#include "quiet_toolkit.h"
+#include "support/quiet_toolkit.h"
 
 namespace pantrigo::bench {
 namespace {

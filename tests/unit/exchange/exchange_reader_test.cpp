@@ -3,10 +3,8 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
-#include <fstream>
-#include <memory>
 
-#include "platform/text/errors.h"
+#include "support/scratch_folder.h"
 
 namespace pantrigo {
 namespace {
@@ -17,10 +15,6 @@ namespace fs = std::filesystem;
 class ExchangeReaderTest : public ::testing::Test {
  protected:
   void SetUp() override {
-    std::string pattern = (fs::temp_directory_path() / "pantrigo-exchange-XXXXXX").string();
-    ASSERT_NE(mkdtemp(pattern.data()), nullptr);
-    folder_ = pattern;
-    files_ = std::make_unique<Files>(folder_);
     Database::createStore(folder_ / "PANTRIGO.MDB");
     global_.gDatabase = Database::OpenDatabase(folder_ / "PANTRIGO.MDB");
     global_.gStartDir = folder_.string();
@@ -29,14 +23,9 @@ class ExchangeReaderTest : public ::testing::Test {
     global_.gRecipe = global_.gDatabase.OpenRecordset("Recipe");
   }
 
-  void TearDown() override {
-    global_.gDatabase.Close();
-    fs::remove_all(folder_);
-  }
+  void TearDown() override { global_.gDatabase.Close(); }
 
-  void write(const std::string& name, const std::string& bytes) const {
-    std::ofstream(folder_ / name, std::ios::binary) << bytes;
-  }
+  void write(const std::string& name, const std::string& bytes) const { scratch_.write(name, bytes); }
 
   /// Writes lines with CR LF and walks them.
   ImportCounts import(const std::vector<std::string>& lines, DuplicateTitles duplicates = DuplicateTitles::CreateUnique,
@@ -44,7 +33,7 @@ class ExchangeReaderTest : public ::testing::Test {
     std::string bytes;
     for (const std::string& line : lines) bytes += line + "\r\n";
     write("xprt.txt", bytes);
-    TextReader file(*files_, "xprt.txt");
+    TextReader file(files_, "xprt.txt");
     ImportEvents events;
     events.warning = [&](const std::string& line) { log_.push_back(line); };
     events.added = [&](const std::string& title) { added_.push_back(title); };
@@ -52,7 +41,7 @@ class ExchangeReaderTest : public ::testing::Test {
       categories_.push_back(std::string(kind.name) + ":" + text);
     };
     events.stopAsked = std::move(stopAsked);
-    ExchangeReader reader(global_, *files_, folder_.string(), duplicates, std::move(events));
+    ExchangeReader reader(global_, files_, folder_.string(), duplicates, std::move(events));
     reader.walk(file);
     reader.saveCounters();
     return reader.counts();
@@ -71,8 +60,9 @@ class ExchangeReaderTest : public ::testing::Test {
     return count;
   }
 
-  fs::path folder_;
-  std::unique_ptr<Files> files_;
+  ScratchFolder scratch_;
+  fs::path folder_ = scratch_.path();
+  Files files_{folder_};
   Global global_;
   std::vector<std::string> log_;
   std::vector<std::string> added_;
@@ -155,21 +145,11 @@ TEST_F(ExchangeReaderTest, BlankLinesAndUnknownTagsArePassedOver) {
 }
 
 TEST_F(ExchangeReaderTest, ABlankFirstLineFails) {
-  try {
-    import({"", "00:Apple Pie", "99:End recipe"});
-    FAIL() << "no error";
-  } catch (const RuntimeError& error) {
-    EXPECT_EQ(error.number(), 5);
-  }
+  EXPECT_EQ(errorOf([&] { import({"", "00:Apple Pie", "99:End recipe"}); }), 5);
 }
 
 TEST_F(ExchangeReaderTest, AValueThatDoesNotConvertFailsUntilSkippingHasBegun) {
-  try {
-    import({"00:Apple Pie", "05:many", "99:End recipe"});
-    FAIL() << "no error";
-  } catch (const RuntimeError& error) {
-    EXPECT_EQ(error.number(), 3421);
-  }
+  EXPECT_EQ(errorOf([&] { import({"00:Apple Pie", "05:many", "99:End recipe"}); }), 3421);
   import({"00:Carrot Cake", "02:Cakes", "99:End recipe"});
   const ImportCounts counts = import({"00:Beef Stew", "02:Cakes", "05:many", "06:20", "99:End recipe"});
   EXPECT_EQ(counts.added, 1);
@@ -194,12 +174,7 @@ TEST_F(ExchangeReaderTest, ANewTitleDropsTheOpenRecipeAndSpendsItsId) {
 }
 
 TEST_F(ExchangeReaderTest, AFieldOutsideARecipeFails) {
-  try {
-    import({"05:4", "00:Apple Pie", "99:End recipe"});
-    FAIL() << "no error";
-  } catch (const RuntimeError& error) {
-    EXPECT_EQ(error.number(), 3020);
-  }
+  EXPECT_EQ(errorOf([&] { import({"05:4", "00:Apple Pie", "99:End recipe"}); }), 3020);
 }
 
 TEST_F(ExchangeReaderTest, AStopStoresWhatWasRead) {
@@ -216,24 +191,19 @@ TEST_F(ExchangeReaderTest, PicturesComeBackUnderTheNewId) {
   write("12a.pgx", "second");
   write("12c.pgx", "behind a gap");
   import({"00:Beef Stew", "99:End recipe", "00:Apple Pie", "26:12", "99:End recipe"});
-  EXPECT_EQ(files_->readBytes("2.bmp"), "first");
-  EXPECT_EQ(files_->readBytes("2a.bmp"), "second");
-  EXPECT_TRUE(files_->Dir("2b.bmp").empty());
+  EXPECT_EQ(files_.readBytes("2.bmp"), "first");
+  EXPECT_EQ(files_.readBytes("2a.bmp"), "second");
+  EXPECT_TRUE(files_.Dir("2b.bmp").empty());
 }
 
 TEST_F(ExchangeReaderTest, CountsTheTitleLinesButNotTheLastLine) {
   write("xprt.txt", "00:A\r\n99:End recipe\r\n00:B\r\n99:End recipe\r\n00:C");
-  TextReader file(*files_, "xprt.txt");
+  TextReader file(files_, "xprt.txt");
   EXPECT_EQ(ExchangeReader::countRecipes(file), 2);
 }
 
 TEST_F(ExchangeReaderTest, AnEmptyFileIsAnError) {
-  try {
-    import({});
-    FAIL() << "no error";
-  } catch (const RuntimeError& error) {
-    EXPECT_EQ(error.number(), 62);
-  }
+  EXPECT_EQ(errorOf([&] { import({}); }), 62);
 }
 
 }  // namespace

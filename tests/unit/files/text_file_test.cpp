@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "unit/files/scratch_folder.h"
+#include "support/scratch_folder.h"
 
 namespace pantrigo {
 namespace {

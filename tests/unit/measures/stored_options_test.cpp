@@ -1,7 +1,6 @@
-#include <filesystem>
-
 #include "measures/show_ingredients.h"
 #include "platform/store/database.h"
+#include "support/scratch_folder.h"
 #include "unit/measures/measures_fixture.h"
 
 namespace pantrigo {
@@ -13,19 +12,13 @@ using Lines = std::vector<std::string>;
 class StoredOptions : public MeasuresTest {
  protected:
   StoredOptions() {
-    std::string name = (std::filesystem::temp_directory_path() / "measures-test-XXXXXX").string();
-    folder_ = mkdtemp(name.data());
-    Database::createStore(folder_ / "PANTRIGO.MDB");
-    database_ = Database::OpenDatabase(folder_ / "PANTRIGO.MDB");
+    Database::createStore(folder_.path() / "PANTRIGO.MDB");
+    database_ = Database::OpenDatabase(folder_.path() / "PANTRIGO.MDB");
     run.GLOBAL.gSystem = database_.OpenRecordset("System");
     other_ = database_.OpenRecordset("System");
     change({{"Measurement", "m"}, {"PartialFractions", "1"}, {"Fractions", false}, {"Cup", 250}, {"Tablespoon", 3}});
   }
-  ~StoredOptions() override {
-    database_.Close();
-    std::error_code failure;
-    std::filesystem::remove_all(folder_, failure);
-  }
+  ~StoredOptions() override { database_.Close(); }
 
   void change(const Options& options) {
     other_.Edit();
@@ -34,7 +27,7 @@ class StoredOptions : public MeasuresTest {
   }
 
  private:
-  std::filesystem::path folder_;
+  ScratchFolder folder_;
   Database database_;
   Recordset other_;
 };

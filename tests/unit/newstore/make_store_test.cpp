@@ -9,6 +9,7 @@
 
 #include "platform/text/errors.h"
 #include "platform/text/utf8.h"
+#include "support/scratch_folder.h"
 
 namespace pantrigo {
 namespace {
@@ -19,30 +20,18 @@ const fs::path dataFolder = PANTRIGO_DATA_FOLDER;
 
 class MakeStoreTest : public ::testing::Test {
  protected:
-  void SetUp() override {
-    std::string pattern = (fs::temp_directory_path() / "pantrigo-newstore-XXXXXX").string();
-    ASSERT_NE(mkdtemp(pattern.data()), nullptr);
-    folder_ = pattern;
-    store_ = folder_ / "PANTRIGO.MDB";
-  }
-  void TearDown() override { fs::remove_all(folder_); }
-
-  fs::path folder_;
-  fs::path store_;
+  ScratchFolder scratch_;
+  fs::path folder_ = scratch_.path();
+  fs::path store_ = folder_ / "PANTRIGO.MDB";
 };
 
-int errorOf(const NewStore& task) {
-  try {
-    makeStore(task);
-    return 0;
-  } catch (const RuntimeError& error) {
-    return error.number();
-  }
+int errorOfMaking(const NewStore& task) {
+  return errorOf([&] { makeStore(task); });
 }
 
 TEST_F(MakeStoreTest, AnExistingFileIsNeverOverwritten) {
   std::ofstream(store_) << "precious";
-  EXPECT_EQ(errorOf({store_, {}, {}}), 75);
+  EXPECT_EQ(errorOfMaking({store_, {}, {}}), 75);
   std::ifstream stream(store_);
   std::string content;
   stream >> content;
@@ -50,13 +39,13 @@ TEST_F(MakeStoreTest, AnExistingFileIsNeverOverwritten) {
 }
 
 TEST_F(MakeStoreTest, AMissingExchangeFileIsAnErrorAndLeavesNoStore) {
-  EXPECT_EQ(errorOf({store_, {}, folder_ / "none.txt"}), 53);
+  EXPECT_EQ(errorOfMaking({store_, {}, folder_ / "none.txt"}), 53);
   EXPECT_FALSE(fs::exists(store_));
 }
 
 TEST_F(MakeStoreTest, ALineThatIsNoUnitWordIsAnError) {
   std::ofstream(folder_ / "units.txt") << "m\tmL\njust words\n";
-  EXPECT_EQ(errorOf({store_, folder_ / "units.txt", {}}), 93);
+  EXPECT_EQ(errorOfMaking({store_, folder_ / "units.txt", {}}), 93);
 }
 
 TEST_F(MakeStoreTest, AnEmptyStoreHasItsOptions) {

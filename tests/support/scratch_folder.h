@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <stdexcept>
@@ -14,7 +15,7 @@ namespace pantrigo {
 class ScratchFolder {
  public:
   ScratchFolder() {
-    std::string pattern = (std::filesystem::temp_directory_path() / "pantrigo-files-XXXXXX").string();
+    std::string pattern = (std::filesystem::temp_directory_path() / "pantrigo-test-XXXXXX").string();
     if (mkdtemp(pattern.data()) == nullptr) throw std::runtime_error("no scratch folder");
     path_ = std::filesystem::canonical(pattern);
   }
@@ -22,6 +23,7 @@ class ScratchFolder {
   ScratchFolder& operator=(const ScratchFolder&) = delete;
   ~ScratchFolder() {
     std::error_code failure;
+    std::filesystem::permissions(path_, std::filesystem::perms::owner_all, failure);
     std::filesystem::remove_all(path_, failure);
   }
 
