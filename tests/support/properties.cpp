@@ -86,7 +86,7 @@ const ControlProperty ofOptions[] = {
 };
 
 const ControlProperty ofImages[] = {
-    {"Picture", [](const Control& c) -> Value { return baseName(as<Image>(c).Picture().name); }, {}},
+    {"Picture", [](const Control& c) -> Value { return c.Visible() ? baseName(as<Image>(c).Picture().name) : Value(""); }, {}},
 };
 
 const FormProperty ofForms[] = {

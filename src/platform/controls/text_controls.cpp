@@ -46,6 +46,8 @@ ComboBox::ComboBox(Holder holder, std::string_view name, Box box, std::size_t ma
     : Control(holder, ControlKind::ComboBox, name, box), maxLength_(maxLength) {}
 
 void ComboBox::setText(std::string_view text) {
+  // A text from elsewhere is no pick, also when a picked row reads the same.
+  listIndex_ = -1;
   if (text_ != text) typeText(text);
 }
 
