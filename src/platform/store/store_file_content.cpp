@@ -59,9 +59,9 @@ void writeSystemRow(Connection& connection) {
 }  // namespace
 
 void makeSchema(Connection& connection) {
+  Transaction transaction(connection);
   connection.execute(("PRAGMA application_id=" + plainText(static_cast<long>(storeApplicationId))).c_str());
   connection.execute(("PRAGMA user_version=" + plainText(static_cast<long>(storeSchemaVersion))).c_str());
-  Transaction transaction(connection);
   for (const TableDescription& table : storeTables()) {
     connection.execute(createTableText(table).c_str());
     for (const IndexDescription& index : table.indexes) connection.execute(createIndexText(table, index).c_str());
