@@ -37,6 +37,15 @@ struct SampleForm : Form {
   CommandButton cmdCancel{*this, "cmdCancel", "Cancel", {}};
 };
 
+/// A toolkit whose person does one thing while a form is up modally.
+class AttendedToolkit : public QuietToolkit {
+ public:
+  void waitModal(Form&, const std::function<bool()>& over) override {
+    if (!over() && whileModal) whileModal();
+  }
+  std::function<void()> whileModal;
+};
+
 /// Two forms on show, of which the first is active, and a log of the events that are raised.
 class FormTest : public testing::Test {
  protected:
@@ -81,7 +90,7 @@ class FormTest : public testing::Test {
   /// What was raised since the last call.
   Log raised() { return std::exchange(log, {}); }
 
-  QuietToolkit toolkit;
+  AttendedToolkit toolkit;
   EventLoop loop{toolkit};
   Windows windows{loop};
   SampleForm other{"frmOther", false};
