@@ -9,6 +9,7 @@
 #include <QPrintDialog>
 #include <QPushButton>
 #include <QScreen>
+#include <utility>
 
 #include "desktop/text_conversion.h"
 #include "platform/text/errors.h"
@@ -59,7 +60,11 @@ void QtToolkit::settle() {
     for (QDialog* dialog : dialogs_) dialog->reject();
   }
   if (loop.busy()) return;
-  for (std::unique_ptr<FormView>& view : dropped_) view.release()->deleteLater();
+  std::erase_if(going_, [](const QPointer<FormView>& gone) { return gone.isNull(); });
+  for (std::unique_ptr<FormView>& dropped : dropped_) {
+    dropped->deleteLater();
+    going_.emplace_back(dropped.release());
+  }
   dropped_.clear();
   if (loop.ended() && whenEnded) whenEnded();
 }
@@ -99,6 +104,7 @@ void QtToolkit::dropView(Form& form) {
 void QtToolkit::dropAllViews() {
   views_.clear();
   dropped_.clear();
+  for (const QPointer<FormView>& view : std::exchange(going_, {})) delete view;
   delete help_;
 }
 

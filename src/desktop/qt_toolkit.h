@@ -69,7 +69,9 @@ class QtToolkit : public Toolkit, private ViewHost {
   Windows* windows_ = nullptr;
   QtPrinter printer_;
   std::map<const Form*, std::unique_ptr<FormView>> views_;
+  /// Views that are dropped while some event still runs, and those that go with the next turn of the event loop.
   std::vector<std::unique_ptr<FormView>> dropped_;
+  std::vector<QPointer<FormView>> going_;
   std::vector<QDialog*> dialogs_;
   QPointer<QWidget> help_;
   int modalWaits_ = 0;
