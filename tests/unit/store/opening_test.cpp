@@ -16,7 +16,11 @@ namespace fs = std::filesystem;
 
 using Texts = std::vector<std::string>;
 
-/// A path of the store's own engine settings, read or set through its connection.
+/// The engine's own flags for opening a file.
+constexpr int engineReadOnly = 1;
+constexpr int engineReadWrite = 2;
+
+/// What a text of the engine gives on the store's own connection: one of its settings, mostly.
 std::string setting(const Database& database, const std::string& text) {
   return StoreAccess::state(database).connection().single(text.c_str());
 }
@@ -38,7 +42,9 @@ class OpeningTest : public FolderTest {
   }
 
   /// Changes the closed store's file by a text of the engine, past all checks.
-  void changeFile(const char* text) const { Connection(file().string(), 2, Access::ReadWrite).execute(text); }
+  void changeFile(const char* text) const {
+    Connection(file().string(), engineReadWrite, Access::ReadWrite).execute(text);
+  }
 
   [[nodiscard]] static Texts titles(Database& database) {
     Texts result;
@@ -228,7 +234,7 @@ TEST_F(OpeningTest, OtherCollationVersionRebuildsTheIndexes) {
   changeFile(
       "PRAGMA writable_schema=ON;"
       "UPDATE sqlite_schema SET sql = replace(sql, 'Title COLLATE BINARY', 'Title') WHERE name = 'RecipeIdxTitle'");
-  ASSERT_NE(Connection(file().string(), 1, Access::ReadOnly).single("PRAGMA integrity_check"), "ok");
+  ASSERT_NE(Connection(file().string(), engineReadOnly, Access::ReadOnly).single("PRAGMA integrity_check"), "ok");
   Database database = Database::OpenDatabase(file());
   EXPECT_EQ(setting(database, "PRAGMA integrity_check"), "ok");
   EXPECT_EQ(titles(database), (Texts{"apple", "Recipe 1", "Recipe 2"}));
