@@ -24,7 +24,6 @@ ExchangeReader::ExchangeReader(Global& global, const Files& files, std::string p
       pictureFolder_(std::move(pictureFolder)),
       duplicates_(duplicates),
       events_(std::move(events)) {
-  global_.gDatabase.raiseCounters();
   global_.gSystem = global_.gDatabase.OpenRecordset("System");
   global_.gImageRecipeId = static_cast<long>(global_.gSystem.Field("RecipeId").whole());
   for (std::size_t place = 0; place < categoryKindCount; ++place) {

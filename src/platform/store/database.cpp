@@ -42,10 +42,6 @@ bool Database::isOpen() const {
   return state_ && state_->isOpen();
 }
 
-void Database::raiseCounters() {
-  raiseIdCounters(StoreAccess::state(*this));
-}
-
 void Database::setDurability(Durability durability) {
   StoreAccess::state(*this).setDurability(durability);
 }

@@ -29,7 +29,8 @@ class Database {
 
   /// Opens a cursor: on a table when the text is a table's name, else on the result of an SQL text. Errors: 3078 for an
   /// unknown table, 3075 for an SQL text that is not understood, 93 for an invalid `like` pattern. Opening `System`
-  /// first raises its counters as `raiseCounters` does, so that an import that broke off locks no id.
+  /// first raises each of its counters that lies below the highest id of its table to that id, so that an import that
+  /// broke off locks no id; not in a read-only store.
   [[nodiscard]] Recordset OpenRecordset(std::string_view source);
 
   /// Runs a " Delete FROM ..." text. Durable when it returns. Errors: 3075, 3027.
@@ -40,10 +41,6 @@ class Database {
   void Close();
 
   [[nodiscard]] bool isOpen() const;
-
-  /// Raises each counter of `System` that lies below the highest id of its table to that id. Does nothing in a
-  /// read-only store.
-  void raiseCounters();
 
   /// During imports and list-wide loops updates are made durable together at the loop's end; this switches between
   /// the two ways, and makes a checkpoint when it goes back to `EachUpdate`.
