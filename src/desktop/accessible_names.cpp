@@ -12,7 +12,8 @@ namespace pantrigo {
 
 namespace {
 
-/// How far the middles of a label and a box on the same line may lie apart, in label heights, and how much higher the box may be.
+/// How far the middles of a label and a box on the same line may lie apart, in label heights, and how much higher the
+/// box may be.
 constexpr double sameLine = 0.5;
 constexpr double highestBox = 2;
 /// How far above its control a label may end, in label heights.
@@ -62,7 +63,8 @@ QString labelAbove(const Control& control, const std::vector<const Label*>& labe
   for (const Label* label : labels) {
     if (!standsAbove(label->box(), control.box())) continue;
     const bool better = best == nullptr || label->Top() > best->Top() ||
-                        (label->Top() == best->Top() && overlapAcross(label->box(), control.box()) > overlapAcross(best->box(), control.box()));
+                        (label->Top() == best->Top() &&
+                         overlapAcross(label->box(), control.box()) > overlapAcross(best->box(), control.box()));
     if (better) best = label;
   }
   return best == nullptr ? QString() : plainCaption(best->Caption());
@@ -70,7 +72,8 @@ QString labelAbove(const Control& control, const std::vector<const Label*>& labe
 
 bool captionsItself(const Control& control) {
   return control.kind() == ControlKind::CheckBox || control.kind() == ControlKind::OptionButton ||
-         control.kind() == ControlKind::CommandButton || control.kind() == ControlKind::Label || control.kind() == ControlKind::Frame;
+         control.kind() == ControlKind::CommandButton || control.kind() == ControlKind::Label ||
+         control.kind() == ControlKind::Frame;
 }
 
 }  // namespace

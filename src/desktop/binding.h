@@ -22,8 +22,8 @@ class UserEvents {
   [[nodiscard]] virtual int modalWaits() const = 0;
 };
 
-/// Ties one control to one widget: shows what the control holds, and hands on what a person does to the widget. It sets the widget only
-/// where the two differ, so that cursor and selection stay.
+/// Ties one control to one widget: shows what the control holds, and hands on what a person does to the widget. It sets
+/// the widget only where the two differ, so that cursor and selection stay.
 class Binding {
  public:
   Binding(Control& control, UserEvents& events) : control_(control), events_(events) {}
@@ -59,7 +59,8 @@ inline constexpr const char* signProperty = "sign";
 /// Property of a label's widget: size of its text, in sizes of its parent's.
 inline constexpr const char* textSizeProperty = "textSize";
 
-/// The widget and binding of a control, inside the given parent. Null for the kinds that a form's window shows by itself (menu entries).
+/// The widget and binding of a control, inside the given parent. Null for the kinds that a form's window shows by
+/// itself (menu entries).
 [[nodiscard]] std::unique_ptr<Binding> makeBinding(Control& control, QWidget& parent, UserEvents& events);
 
 // One function a kind, for `makeBinding`.

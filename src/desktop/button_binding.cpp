@@ -12,8 +12,8 @@ namespace pantrigo {
 
 namespace {
 
-/// A check box or an option: two-valued, with a caption. The widget flips by itself when it is clicked; what the control makes of the click
-/// is shown after it.
+/// A check box or an option: two-valued, with a caption. The widget flips by itself when it is clicked; what the
+/// control makes of the click is shown after it.
 template <class Value, class Widget>
 class SwitchBinding : public Binding {
  public:

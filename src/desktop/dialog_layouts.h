@@ -6,8 +6,8 @@ namespace pantrigo {
 
 class FormView;
 
-/// Lays out the widgets of a dialog that has a layout of its own, on the canvas. Gives false for a form that has none: its controls then stand
-/// at their places in twips.
+/// Lays out the widgets of a dialog that has a layout of its own, on the canvas. Gives false for a form that has none:
+/// its controls then stand at their places in twips.
 bool layOutDialog(const FormView& view, QWidget& canvas);
 
 }  // namespace pantrigo

@@ -22,10 +22,12 @@ EndSignals::~EndSignals() {
 void EndSignals::connect(std::function<void()> whenSignalled) {
   if (descriptor_ < 0) return;
   notifier_ = std::make_unique<QSocketNotifier>(descriptor_, QSocketNotifier::Read);
-  QObject::connect(notifier_.get(), &QSocketNotifier::activated, notifier_.get(), [this, whenSignalled = std::move(whenSignalled)] {
-    signalfd_siginfo signal{};
-    if (read(descriptor_, &signal, sizeof signal) == static_cast<ssize_t>(sizeof signal)) whenSignalled();
-  });
+  QObject::connect(notifier_.get(), &QSocketNotifier::activated, notifier_.get(),
+                   [this, whenSignalled = std::move(whenSignalled)] {
+                     signalfd_siginfo signal{};
+                     if (read(descriptor_, &signal, sizeof signal) == static_cast<ssize_t>(sizeof signal))
+                       whenSignalled();
+                   });
 }
 
 }  // namespace pantrigo

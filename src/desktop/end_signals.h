@@ -6,8 +6,8 @@
 
 namespace pantrigo {
 
-/// Makes the system's signals to end (SIGTERM, SIGINT, SIGHUP) ordinary events. To be made before the application object, so that all its
-/// threads leave the signals to it.
+/// Makes the system's signals to end (SIGTERM, SIGINT, SIGHUP) ordinary events. To be made before the application
+/// object, so that all its threads leave the signals to it.
 class EndSignals {
  public:
   EndSignals();

@@ -233,7 +233,8 @@ void FormView::place(const Control& control) {
 void FormView::present(Modality modality, QWidget* over) {
   setWindowModality(modality == Modality::Modal ? Qt::ApplicationModal : Qt::NonModal);
   winId();
-  if (modality == Modality::Modal && over != nullptr && over != this) windowHandle()->setTransientParent(over->windowHandle());
+  if (modality == Modality::Modal && over != nullptr && over != this)
+    windowHandle()->setTransientParent(over->windowHandle());
   show();
 }
 

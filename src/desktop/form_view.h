@@ -20,8 +20,8 @@ class ViewHost : public UserEvents {
   virtual void windowActivated(Form& form) = 0;
 };
 
-/// The window of one form: its menu bar, and its controls at their places in twips, multiplied by the window's present scale; or in a layout
-/// of its own, where the form has one. It listens to the form for as long as it lives.
+/// The window of one form: its menu bar, and its controls at their places in twips, multiplied by the window's present
+/// scale; or in a layout of its own, where the form has one. It listens to the form for as long as it lives.
 class FormView : public QWidget, private FormListener {
  public:
   FormView(Form& form, ViewHost& host);
@@ -78,7 +78,8 @@ class FormView : public QWidget, private FormListener {
   bool laidOut_ = false;
   /// While the program does what belongs to the window's being minimised; nothing brings the window back then.
   bool minimising_ = false;
-  /// Above 0 while the window is being changed by the program, so that what the toolkit does about the focus then is not taken for a person's doing.
+  /// Above 0 while the window is being changed by the program, so that what the toolkit does about the focus then is
+  /// not taken for a person's doing.
   int changing_ = 0;
 };
 

@@ -13,7 +13,8 @@ namespace pantrigo {
 
 namespace {
 
-/// Height of the band at the top of a frame that its caption stands in, in twips at design size: that of a label, which may stand beside it.
+/// Height of the band at the top of a frame that its caption stands in, in twips at design size: that of a label, which
+/// may stand beside it.
 constexpr double captionBand = 225;
 constexpr double cornerRadius = 6;
 

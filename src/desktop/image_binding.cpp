@@ -11,14 +11,17 @@ namespace pantrigo {
 
 namespace {
 
-/// A picture, as large as its place allows, in its own proportions. Without one it shows the icon that its property `signProperty` names.
+/// A picture, as large as its place allows, in its own proportions. Without one it shows the icon that its property
+/// `signProperty` names.
 class PictureWidget : public QWidget {
  public:
   explicit PictureWidget(QWidget* parent) : QWidget(parent) {}
 
   void setPicture(const PictureFile& picture) {
     pixmap_ = QPixmap();
-    if (picture.bytes) pixmap_.loadFromData(reinterpret_cast<const uchar*>(picture.bytes->data()), static_cast<uint>(picture.bytes->size()));
+    if (picture.bytes)
+      pixmap_.loadFromData(reinterpret_cast<const uchar*>(picture.bytes->data()),
+                           static_cast<uint>(picture.bytes->size()));
     update();
   }
 

@@ -18,11 +18,12 @@ constexpr double headingTop = 30;
 
 bool isHeading(const Label& label) {
   const Control* frame = label.container();
-  return frame != nullptr && frame->kind() == ControlKind::Frame && static_cast<const Frame*>(frame)->Caption().empty() &&
-         label.Top() < headingTop;
+  return frame != nullptr && frame->kind() == ControlKind::Frame &&
+         static_cast<const Frame*>(frame)->Caption().empty() && label.Top() < headingTop;
 }
 
-/// A label whose text always fits: it wraps where there is room for a second line, and shrinks a little where there is not.
+/// A label whose text always fits: it wraps where there is room for a second line, and shrinks a little where there is
+/// not.
 class FittingLabel : public QLabel {
  public:
   explicit FittingLabel(QWidget* parent) : QLabel(parent) {
@@ -73,7 +74,8 @@ class FittingLabel : public QLabel {
 
  private:
   [[nodiscard]] bool fits(const QString& shown, const QFont& font) const {
-    const QRect needed = QFontMetrics(font).boundingRect(QRect(0, 0, width(), height()), wordWrap() ? Qt::TextWordWrap : 0, shown);
+    const QRect needed =
+        QFontMetrics(font).boundingRect(QRect(0, 0, width(), height()), wordWrap() ? Qt::TextWordWrap : 0, shown);
     return needed.width() <= width() && (!wordWrap() || needed.height() <= height());
   }
 

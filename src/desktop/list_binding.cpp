@@ -43,9 +43,15 @@ class ListBinding : public Binding {
   ListActions actions() {
     ListActions actions;
     actions.picks = [this](int row) { events().dispatch([&](Windows& windows) { userPicks(windows, list_, row); }); };
-    actions.movesTo = [this](int row) { events().dispatch([&](Windows& windows) { userMovesTo(windows, list_, row); }); };
-    actions.toggles = [this](int row) { events().dispatch([&](Windows& windows) { userToggles(windows, list_, row); }); };
-    actions.doubleClicks = [this](int) { events().dispatch([&](Windows& windows) { userDoubleClicks(windows, list_); }); };
+    actions.movesTo = [this](int row) {
+      events().dispatch([&](Windows& windows) { userMovesTo(windows, list_, row); });
+    };
+    actions.toggles = [this](int row) {
+      events().dispatch([&](Windows& windows) { userToggles(windows, list_, row); });
+    };
+    actions.doubleClicks = [this](int) {
+      events().dispatch([&](Windows& windows) { userDoubleClicks(windows, list_); });
+    };
     actions.pressesBeside = [this] {
       events().dispatch([&](Windows& windows) { userPresses(windows, list_, leftButton); });
     };

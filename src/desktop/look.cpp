@@ -9,6 +9,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <utility>
 
 namespace pantrigo {
 
@@ -28,7 +29,9 @@ constexpr std::array<QRgb, 16> colourTable{
 constexpr int darkYellow = 6;
 constexpr double readableContrast = 4.5;
 
-double linear(double channel) { return channel <= 0.04045 ? channel / 12.92 : std::pow((channel + 0.055) / 1.055, 2.4); }
+double linear(double channel) {
+  return channel <= 0.04045 ? channel / 12.92 : std::pow((channel + 0.055) / 1.055, 2.4);
+}
 
 /// Relative luminance, 0 (black) to 1 (white).
 double luminance(const QColor& colour) {
@@ -43,49 +46,50 @@ double textSize(double scale) {
 /// Side of the mark of a check box, in text sizes.
 constexpr double markSide = 0.9;
 
-/// The lengths "@mark", "@inner" (the mark in a border that is one pixel wider) and "@round" (its half, border included) go by the text size.
+/// Words that begin with "@" stand for colours of ours, and for lengths that go by the text size: "@mark", "@inner"
+/// (the mark in a border that is one pixel wider) and "@round" (its half, border included).
 constexpr const char* styleSheet = R"(
-QToolTip { background: #2d3944; color: #ffffff; border: 1px solid #2d3944; padding: 3px 6px; }
-QMenuBar { background: #faf6ef; border-bottom: 1px solid #e6dfd2; padding: 1px 4px; }
+QToolTip { background: @text; color: @field; border: 1px solid @text; padding: 3px 6px; }
+QMenuBar { background: @ground; border-bottom: 1px solid #e6dfd2; padding: 1px 4px; }
 QMenuBar::item { background: transparent; padding: 4px 9px; border-radius: 4px; }
-QMenuBar::item:selected, QMenuBar::item:pressed { background: #f8e6d8; }
-QMenuBar::item:disabled { color: #a09a91; }
-QMenu { background: #fffdf9; border: 1px solid #d9d0c1; padding: 4px; }
+QMenuBar::item:selected, QMenuBar::item:pressed { background: @tint; }
+QMenuBar::item:disabled { color: @disabled; }
+QMenu { background: @panel; border: 1px solid #d9d0c1; padding: 4px; }
 QMenu::item { padding: 5px 26px 5px 14px; border-radius: 4px; }
-QMenu::item:selected { background: #f8e6d8; }
-QMenu::item:disabled { color: #a09a91; background: transparent; }
+QMenu::item:selected { background: @tint; }
+QMenu::item:disabled { color: @disabled; background: transparent; }
 QMenu::separator { height: 1px; background: #e6dfd2; margin: 4px 8px; }
-QLineEdit, QPlainTextEdit, QListView, QComboBox { background: #ffffff; border: 1px solid #cfc5b4; border-radius: 4px; padding: 1px 3px; }
-QLineEdit:focus, QPlainTextEdit:focus, QListView:focus, QComboBox:focus { border: 2px solid #b85220; padding: 0px 2px; }
-QLineEdit:disabled, QPlainTextEdit:disabled, QListView:disabled, QComboBox:disabled { background: #f3efe8; border-color: #e2dace; color: #a09a91; }
+QLineEdit, QPlainTextEdit, QListView, QComboBox { background: @field; border: 1px solid #cfc5b4; border-radius: 4px; padding: 1px 3px; }
+QLineEdit:focus, QPlainTextEdit:focus, QListView:focus, QComboBox:focus { border: 2px solid @accent; padding: 0px 2px; }
+QLineEdit:disabled, QPlainTextEdit:disabled, QListView:disabled, QComboBox:disabled { background: #f3efe8; border-color: #e2dace; color: @disabled; }
 QListView, QListView:focus { padding-left: 0px; padding-right: 0px; }
 QComboBox QLineEdit, QComboBox QLineEdit:focus { border: none; background: transparent; padding: 0px; }
 QComboBox::drop-down { border: none; width: 20px; }
 QComboBox::down-arrow { image: url(:/look/arrow_down.svg); width: @inner; height: @inner; }
 QComboBox::down-arrow:disabled { image: url(:/look/arrow_down_disabled.svg); }
-QComboBox QAbstractItemView { background: #ffffff; border: 1px solid #cfc5b4; padding: 2px; selection-background-color: #f8e6d8; selection-color: #2d3944; }
+QComboBox QAbstractItemView { background: @field; border: 1px solid #cfc5b4; padding: 2px; selection-background-color: @tint; selection-color: @text; }
 QCheckBox, QRadioButton { spacing: 7px; }
-QCheckBox:focus, QRadioButton:focus { color: #b85220; }
-QCheckBox:disabled, QRadioButton:disabled, QLabel:disabled { color: #a09a91; }
-QCheckBox::indicator { width: @mark; height: @mark; border: 1px solid #a99f8f; border-radius: 3px; background: #ffffff; }
-QCheckBox::indicator:focus { border: 2px solid #b85220; width: @inner; height: @inner; }
-QCheckBox::indicator:checked { background: #b85220; border-color: #b85220; image: url(:/look/tick.svg); }
+QCheckBox:focus, QRadioButton:focus { color: @accent; }
+QCheckBox:disabled, QRadioButton:disabled, QLabel:disabled { color: @disabled; }
+QCheckBox::indicator { width: @mark; height: @mark; border: 1px solid #a99f8f; border-radius: 3px; background: @field; }
+QCheckBox::indicator:focus { border: 2px solid @accent; width: @inner; height: @inner; }
+QCheckBox::indicator:checked { background: @accent; border-color: @accent; image: url(:/look/tick.svg); }
 QCheckBox::indicator:disabled { background: #f3efe8; border-color: #ddd5c8; }
 QCheckBox::indicator:checked:disabled { background: #d8c9bc; }
-QRadioButton::indicator { width: @mark; height: @mark; border: 1px solid #a99f8f; border-radius: @round; background: #ffffff; }
-QRadioButton::indicator:focus { border: 2px solid #b85220; width: @inner; height: @inner; }
-QRadioButton::indicator:checked { background: qradialgradient(cx:0.5, cy:0.5, radius:0.5, fx:0.5, fy:0.5, stop:0 #b85220, stop:0.55 #b85220, stop:0.62 #ffffff, stop:1 #ffffff); border-color: #b85220; }
+QRadioButton::indicator { width: @mark; height: @mark; border: 1px solid #a99f8f; border-radius: @round; background: @field; }
+QRadioButton::indicator:focus { border: 2px solid @accent; width: @inner; height: @inner; }
+QRadioButton::indicator:checked { background: qradialgradient(cx:0.5, cy:0.5, radius:0.5, fx:0.5, fy:0.5, stop:0 @accent, stop:0.55 @accent, stop:0.62 @field, stop:1 @field); border-color: @accent; }
 QDialogButtonBox { dialogbuttonbox-buttons-have-icons: 0; }
-QPushButton { background: #fffdf9; border: 1px solid #c3b8a5; border-radius: 5px; padding: 4px 16px; }
-QPushButton:hover { background: #f8e6d8; }
+QPushButton { background: @panel; border: 1px solid #c3b8a5; border-radius: 5px; padding: 4px 16px; }
+QPushButton:hover { background: @tint; }
 QPushButton:pressed { background: #efd3bf; }
-QPushButton:focus { border: 2px solid #b85220; padding: 3px 15px; }
-QPushButton:default { border-color: #b85220; font-weight: 600; }
-QPushButton:disabled { color: #a09a91; background: #f3efe8; border-color: #e2dace; }
+QPushButton:focus { border: 2px solid @accent; padding: 3px 15px; }
+QPushButton:default { border-color: @accent; font-weight: 600; }
+QPushButton:disabled { color: @disabled; background: #f3efe8; border-color: #e2dace; }
 QToolButton { background: transparent; border: 1px solid transparent; border-radius: 6px; padding: 2px; }
-QToolButton:hover { background: #f8e6d8; border-color: #ecd0bb; }
+QToolButton:hover { background: @tint; border-color: #ecd0bb; }
 QToolButton:pressed, QToolButton:checked { background: #efd3bf; border-color: #d9a988; }
-QToolButton:disabled { color: #a09a91; }
+QToolButton:disabled { color: @disabled; }
 QScrollBar:vertical { background: transparent; width: 12px; margin: 1px; }
 QScrollBar:horizontal { background: transparent; height: 12px; margin: 1px; }
 QScrollBar::handle { background: #cfc5b4; border-radius: 4px; min-height: 28px; min-width: 28px; margin: 1px; }
@@ -95,13 +99,19 @@ QScrollBar::add-page, QScrollBar::sub-page { background: transparent; }
 QWidget#frmDetail QLineEdit#txtTitle { background: #ece8e0; font-weight: bold; }
 )";
 
-QString sizedStyleSheet(double scale) {
+QString filledStyleSheet(double scale) {
   const int mark = static_cast<int>(std::lround(textSize(scale) * markSide));
   const auto pixels = [](int length) { return QString::number(length) + QStringLiteral("px"); };
-  return QString::fromLatin1(styleSheet)
-      .replace(QStringLiteral("@mark"), pixels(mark))
-      .replace(QStringLiteral("@inner"), pixels(mark - 2))
-      .replace(QStringLiteral("@round"), pixels(mark / 2 + 1));
+  const std::pair<const char*, QString> words[] = {
+      {"@mark", pixels(mark)},          {"@inner", pixels(mark - 2)},
+      {"@round", pixels(mark / 2 + 1)}, {"@accent", hue::accent.name()},
+      {"@tint", hue::tint.name()},      {"@panel", hue::panel.name()},
+      {"@ground", hue::ground.name()},  {"@disabled", hue::disabledText.name()},
+      {"@text", hue::text.name()},      {"@field", hue::field.name()},
+  };
+  QString filled = QString::fromLatin1(styleSheet);
+  for (const auto& [word, meaning] : words) filled.replace(QLatin1String(word), meaning);
+  return filled;
 }
 
 QPalette windowPalette() {
@@ -125,9 +135,13 @@ QPalette windowPalette() {
 
 }  // namespace
 
-int textPixelSize(double scale) { return std::max(smallestText, static_cast<int>(std::lround(textSize(scale)))); }
+int textPixelSize(double scale) {
+  return std::max(smallestText, static_cast<int>(std::lround(textSize(scale))));
+}
 
-double dialogScale(double screenScale) { return textSize(screenScale) / textSizeAtDesign; }
+double dialogScale(double screenScale) {
+  return textSize(screenScale) / textSizeAtDesign;
+}
 
 QColor tableColour(int number) {
   const bool inTable = number >= 0 && number < static_cast<int>(colourTable.size());
@@ -151,9 +165,13 @@ QColor readableOn(QColor text, const QColor& ground) {
   return text;
 }
 
-bool isMarkColour(int number) { return number == darkYellow; }
+bool isMarkColour(int number) {
+  return number == darkYellow;
+}
 
-QString markWords() { return QStringLiteral(", in the meal"); }
+QString markWords() {
+  return QStringLiteral(", in the meal");
+}
 
 QIcon iconNamed(const QString& name) {
   const QString file = QStringLiteral(":/icons/%1.svg").arg(name.toLower());
@@ -168,7 +186,7 @@ void applyLook(QApplication& application, double scale) {
   font.setPixelSize(textPixelSize(std::min(scale, fullGrowthUpTo)));
   QApplication::setFont(font);
   QApplication::setPalette(windowPalette());
-  application.setStyleSheet(sizedStyleSheet(scale));
+  application.setStyleSheet(filledStyleSheet(scale));
   QApplication::setWindowIcon(iconNamed(QStringLiteral("pantrigo")));
 }
 

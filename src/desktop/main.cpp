@@ -32,9 +32,10 @@ int main(int argc, char* argv[]) {
   QApplication::setQuitOnLastWindowClosed(false);
 
   QCommandLineParser arguments;
-  const QCommandLineOption pictures(QStringLiteral("pictures"),
-                                    QStringLiteral("Opens the first recipe, writes pictures of the windows into <folder>, and ends."),
-                                    QStringLiteral("folder"));
+  const QCommandLineOption pictures(
+      QStringLiteral("pictures"),
+      QStringLiteral("Opens the first recipe, writes pictures of the windows into <folder>, and ends."),
+      QStringLiteral("folder"));
   arguments.addOption(pictures);
   arguments.addHelpOption();
   arguments.process(application);
@@ -42,8 +43,9 @@ int main(int argc, char* argv[]) {
   pantrigo::applyLook(application, pantrigo::screenArea(QGuiApplication::primaryScreen()->availableGeometry()).scale);
   pantrigo::Desktop desktop(pantrigo::fromQt(QDir::currentPath()));
   endSignals.connect([&] { desktop.close(); });
-  QObject::connect(&application, &QGuiApplication::commitDataRequest, &application, [&](QSessionManager&) { desktop.close(); },
-                   Qt::DirectConnection);
+  QObject::connect(
+      &application, &QGuiApplication::commitDataRequest, &application, [&](QSessionManager&) { desktop.close(); },
+      Qt::DirectConnection);
   desktop.start();
   return arguments.isSet(pictures) ? runForPictures(desktop, arguments.value(pictures)) : desktop.run();
 }

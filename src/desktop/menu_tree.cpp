@@ -14,7 +14,8 @@ namespace {
 
 bool hasEntries(const MenuEntry& menu) {
   const auto& controls = menu.form().controls();
-  return std::any_of(controls.begin(), controls.end(), [&](const Control* control) { return control->container() == &menu; });
+  return std::any_of(controls.begin(), controls.end(),
+                     [&](const Control* control) { return control->container() == &menu; });
 }
 
 }  // namespace
@@ -44,9 +45,8 @@ void MenuTree::add(MenuEntry& entry, QMenuBar& bar, UserEvents& events) {
     action = menu->menuAction();
   } else {
     action = parent != nullptr ? parent->addAction(QString()) : bar.addAction(QString());
-    QObject::connect(action, &QAction::triggered, action, [&entry, &events] {
-      events.dispatch([&](Windows& windows) { userClicks(windows, entry); });
-    });
+    QObject::connect(action, &QAction::triggered, action,
+                     [&entry, &events] { events.dispatch([&](Windows& windows) { userClicks(windows, entry); }); });
   }
   action->setObjectName(toQt(entry.Name()));
   actions_[&entry] = action;

@@ -6,8 +6,8 @@
 
 namespace pantrigo {
 
-/// Opens the first recipe of the list and writes pictures of the windows as PNG files into the folder, which is made when it is missing. Gives
-/// whether all could be written.
+/// Opens the first recipe of the list and writes pictures of the windows as PNG files into the folder, which is made
+/// when it is missing. Gives whether all could be written.
 bool writePictures(Desktop& desktop, const QString& folder);
 
 }  // namespace pantrigo

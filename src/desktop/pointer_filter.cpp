@@ -14,7 +14,8 @@ PointerFilter::PointerFilter(QWidget& widget, Control& control, UserEvents& even
 
 void PointerFilter::pressed(Qt::MouseButton button) {
   if (button == Qt::LeftButton) down_ = true;
-  if (button == Qt::RightButton) events_.dispatch([this](Windows& windows) { userPresses(windows, control_, rightButton); });
+  if (button == Qt::RightButton)
+    events_.dispatch([this](Windows& windows) { userPresses(windows, control_, rightButton); });
 }
 
 void PointerFilter::released(bool inside) {

@@ -6,8 +6,8 @@
 
 namespace pantrigo {
 
-/// Makes mouse presses on a widget that takes no focus (a label, a frame, a picture) a person's presses, clicks and double clicks on its
-/// control. They end here, so that a label's click is not its frame's too.
+/// Makes mouse presses on a widget that takes no focus (a label, a frame, a picture) a person's presses, clicks and
+/// double clicks on its control. They end here, so that a label's click is not its frame's too.
 class PointerFilter : public QObject {
  public:
   PointerFilter(QWidget& widget, Control& control, UserEvents& events);

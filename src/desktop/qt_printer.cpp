@@ -43,9 +43,13 @@ QtPrinter::QtPrinter() : device_(QPrinter::HighResolution), font_(QStringLiteral
 
 // Fonts are as large in pixels as they are in twips, so that metrics are twips and do not depend on the device.
 
-void QtPrinter::setFontSize(double points) { font_.setPixelSize(static_cast<int>(std::lround(points * twipsPerPoint))); }
+void QtPrinter::setFontSize(double points) {
+  font_.setPixelSize(static_cast<int>(std::lround(points * twipsPerPoint)));
+}
 
-void QtPrinter::setFontBold(bool bold) { font_.setBold(bold); }
+void QtPrinter::setFontBold(bool bold) {
+  font_.setBold(bold);
+}
 
 QSizeF QtPrinter::pageSize() const {
   const QSizeF inches = device_.pageLayout().paintRect(QPageLayout::Inch).size();
@@ -58,7 +62,9 @@ double QtPrinter::columnWidth() const {
   return QFontMetricsF(plain).horizontalAdvance(QLatin1Char('0')) * 0.9;
 }
 
-double QtPrinter::lineHeight() const { return QFontMetricsF(font_).height(); }
+double QtPrinter::lineHeight() const {
+  return QFontMetricsF(font_).height();
+}
 
 void QtPrinter::makeRoom() {
   if (pageOpen_ && y_ + lineHeight() > pageSize().height()) NewPage();
@@ -95,7 +101,9 @@ void QtPrinter::endLine() {
   y_ += lineHeight();
 }
 
-void QtPrinter::setCurrentY(double twips) { y_ = twips; }
+void QtPrinter::setCurrentY(double twips) {
+  y_ = twips;
+}
 
 void QtPrinter::NewPage() {
   if (!pageOpen_) pages_.emplace_back();

@@ -18,8 +18,8 @@ struct PrintedText {
   QFont font;
 };
 
-/// The printer object over a real printer, or over a PDF file when there is none. The pages are laid out first, in twips, and painted when the
-/// document ends.
+/// The printer object over a real printer, or over a PDF file when there is none. The pages are laid out first, in
+/// twips, and painted when the document ends.
 class QtPrinter : public Printer {
  public:
   QtPrinter();

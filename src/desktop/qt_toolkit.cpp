@@ -47,7 +47,9 @@ QtToolkit::QtToolkit() {
   printer_.whenPrintedToFile = [this](const QString& file) { tellWhereThePrintWent(file); };
 }
 
-QtToolkit::~QtToolkit() { setScreenPointer(pointerDefault); }
+QtToolkit::~QtToolkit() {
+  setScreenPointer(pointerDefault);
+}
 
 void QtToolkit::dispatch(const std::function<void(Windows&)>& event) {
   windows_->loop().dispatch([&] { event(*windows_); });
@@ -136,7 +138,9 @@ void QtToolkit::waitModal(Form&, const std::function<bool()>& over) {
   while (!over()) QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
 }
 
-void QtToolkit::pumpEvents() { QCoreApplication::processEvents(); }
+void QtToolkit::pumpEvents() {
+  QCoreApplication::processEvents();
+}
 
 int QtToolkit::run(QDialog& dialog) {
   const bool hourglass = screenPointerSet_;
@@ -170,16 +174,22 @@ BoxAnswer QtToolkit::showBox(const MessageBox& box) {
 
 // The surroundings.
 
-void QtToolkit::Beep() { QApplication::beep(); }
+void QtToolkit::Beep() {
+  QApplication::beep();
+}
 
 LocalTime QtToolkit::Now() const {
   const QDateTime now = QDateTime::currentDateTime();
   return {now.date().year(), now.date().month(), now.date().day(), now.time().hour(), now.time().minute()};
 }
 
-ScreenArea QtToolkit::area() const { return screenArea(QGuiApplication::primaryScreen()->availableGeometry()); }
+ScreenArea QtToolkit::area() const {
+  return screenArea(QGuiApplication::primaryScreen()->availableGeometry());
+}
 
-ScreenSize QtToolkit::screen() const { return area().size(); }
+ScreenSize QtToolkit::screen() const {
+  return area().size();
+}
 
 void QtToolkit::setScreenPointer(int pointer) {
   const bool hourglass = pointer == pointerHourglass;
@@ -194,8 +204,8 @@ void QtToolkit::setScreenPointer(int pointer) {
 
 void QtToolkit::showHelp(const HelpCall&) {
   if (help_ == nullptr) {
-    auto* box = new QMessageBox(QMessageBox::Information, QStringLiteral("Help"), QStringLiteral("No help pages are installed."),
-                                QMessageBox::Ok, activeWindow());
+    auto* box = new QMessageBox(QMessageBox::Information, QStringLiteral("Help"),
+                                QStringLiteral("No help pages are installed."), QMessageBox::Ok, activeWindow());
     box->setAttribute(Qt::WA_DeleteOnClose);
     box->setWindowModality(Qt::NonModal);
     help_ = box;
@@ -216,7 +226,8 @@ void QtToolkit::setUpPrinter(int) {
 
 void QtToolkit::tellWhereThePrintWent(const QString& file) {
   auto* box = new QMessageBox(QMessageBox::Information, QStringLiteral("Print"),
-                              QStringLiteral("No printer is installed. The print is in the file\n%1").arg(file), QMessageBox::Ok, activeWindow());
+                              QStringLiteral("No printer is installed. The print is in the file\n%1").arg(file),
+                              QMessageBox::Ok, activeWindow());
   box->setTextFormat(Qt::PlainText);
   box->setAttribute(Qt::WA_DeleteOnClose);
   box->setWindowModality(Qt::NonModal);

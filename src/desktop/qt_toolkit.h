@@ -15,8 +15,8 @@ class QDialog;
 
 namespace pantrigo {
 
-/// The toolkit over real windows: one view a form, message boxes and system dialogs, the event loop, the printer. All that a person does
-/// enters the program through `dispatch`.
+/// The toolkit over real windows: one view a form, message boxes and system dialogs, the event loop, the printer. All
+/// that a person does enters the program through `dispatch`.
 class QtToolkit : public Toolkit, private ViewHost {
  public:
   QtToolkit();
@@ -76,8 +76,8 @@ class QtToolkit : public Toolkit, private ViewHost {
   QPointer<QWidget> help_;
   int modalWaits_ = 0;
   bool screenPointerSet_ = false;
-  /// The form whose window the program has asked to become active, until the system has done so; what the system makes active on the way
-  /// there is no doing of a person's.
+  /// The form whose window the program has asked to become active, until the system has done so; what the system makes
+  /// active on the way there is no doing of a person's.
   const Form* expected_ = nullptr;
   QElapsedTimer expectedSince_;
 };

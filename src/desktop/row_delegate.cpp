@@ -52,7 +52,8 @@ void RowDelegate::paintMark(QPainter& painter, const QRect& place, bool ticked, 
   painter.setRenderHint(QPainter::Antialiasing);
   painter.setPen(rim);
   painter.setBrush(ground);
-  painter.drawRoundedRect(QRectF(place).adjusted(0.5, 0.5, -0.5, -0.5), place.width() * markRounding, place.width() * markRounding);
+  painter.drawRoundedRect(QRectF(place).adjusted(0.5, 0.5, -0.5, -0.5), place.width() * markRounding,
+                          place.width() * markRounding);
   if (ticked) QIcon(QStringLiteral(":/look/tick.svg")).paint(&painter, place);
 }
 

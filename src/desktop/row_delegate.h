@@ -6,7 +6,8 @@
 
 namespace pantrigo {
 
-/// Paints the rows of a list: the colours that the program gave them, and, where several can be selected, a box with a tick.
+/// Paints the rows of a list: the colours that the program gave them, and, where several can be selected, a box with a
+/// tick.
 class RowDelegate : public QStyledItemDelegate {
  public:
   RowDelegate(const ListBox& list, QObject* parent) : QStyledItemDelegate(parent), list_(list) {}

@@ -87,9 +87,13 @@ void RowList::mousePressEvent(QMouseEvent* event) {
   }
 }
 
-void RowList::mouseMoveEvent(QMouseEvent* event) { event->accept(); }
+void RowList::mouseMoveEvent(QMouseEvent* event) {
+  event->accept();
+}
 
-void RowList::mouseReleaseEvent(QMouseEvent* event) { event->accept(); }
+void RowList::mouseReleaseEvent(QMouseEvent* event) {
+  event->accept();
+}
 
 void RowList::mouseDoubleClickEvent(QMouseEvent* event) {
   event->accept();

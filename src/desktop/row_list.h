@@ -17,8 +17,9 @@ struct ListActions {
   std::function<void()> pressesBeside;
 };
 
-/// The list on the screen. It selects nothing by itself: a person's doing goes to the actions, and what is selected comes back from the
-/// list that it shows. Changed rows are taken over together, no more often than a display can show them.
+/// The list on the screen. It selects nothing by itself: a person's doing goes to the actions, and what is selected
+/// comes back from the list that it shows. Changed rows are taken over together, no more often than a display can show
+/// them.
 class RowList : public QListView {
  public:
   RowList(const ListBox& list, ListActions actions, QWidget* parent);

@@ -16,8 +16,8 @@ struct WindowAllowance {
   int menu = 32;
 };
 
-/// The part of the screen that the program lays its windows out for: the largest area of shape 4 to 3 in the work area in which a main window
-/// still fits with its frame and menu.
+/// The part of the screen that the program lays its windows out for: the largest area of shape 4 to 3 in the work area
+/// in which a main window still fits with its frame and menu.
 struct ScreenArea {
   /// In logical pixels.
   QRect area;

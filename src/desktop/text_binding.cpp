@@ -65,8 +65,8 @@ class LineBoxBinding : public Binding {
   QLineEdit* edit_;
 };
 
-/// A box of several lines. What the document gives back can differ from the text that was put in (a lone line feed comes back as CR LF),
-/// so a change is only what differs from the document as it was shown.
+/// A box of several lines. What the document gives back can differ from the text that was put in (a lone line feed
+/// comes back as CR LF), so a change is only what differs from the document as it was shown.
 class MultiLineBoxBinding : public Binding {
  public:
   MultiLineBoxBinding(TextBox& box, QWidget& parent, UserEvents& userEvents)

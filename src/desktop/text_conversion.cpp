@@ -35,9 +35,13 @@ bool marksKey(std::string_view caption, std::size_t place) {
 
 }  // namespace
 
-QString toQt(std::string_view text) { return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size())); }
+QString toQt(std::string_view text) {
+  return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+}
 
-std::string fromQt(const QString& text) { return text.toStdString(); }
+std::string fromQt(const QString& text) {
+  return text.toStdString();
+}
 
 QString shownLines(std::string_view text) {
   QString lines = toQt(text);

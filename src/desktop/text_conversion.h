@@ -28,8 +28,8 @@ namespace pantrigo {
 [[nodiscard]] QString plainCaption(std::string_view caption);
 [[nodiscard]] bool hasAccessKey(std::string_view caption);
 
-/// Takes back what the last typing or pasting put beyond the limit of code points, in front of the cursor. `before` is the count that the box
-/// had: a longer text that was there already stays. A limit of 0 is none. Raises no signals.
+/// Takes back what the last typing or pasting put beyond the limit of code points, in front of the cursor. `before` is
+/// the count that the box had: a longer text that was there already stays. A limit of 0 is none. Raises no signals.
 void cutToLimit(QLineEdit& box, std::size_t limit, std::size_t before);
 void cutToLimit(QPlainTextEdit& box, std::size_t limit, std::size_t before);
 

@@ -25,7 +25,8 @@ constexpr int heightForWords = 50;
 class BarWidget : public QWidget {
  public:
   BarWidget(QWidget* parent, const ToolBar& bar) : QWidget(parent), bar_(bar) {
-    for (const ToolButton& button : bar.buttons()) buttons_.push_back(button.key.empty() ? nullptr : makeButton(button));
+    for (const ToolButton& button : bar.buttons())
+      buttons_.push_back(button.key.empty() ? nullptr : makeButton(button));
   }
 
   [[nodiscard]] const std::vector<QToolButton*>& buttons() const { return buttons_; }
@@ -90,7 +91,9 @@ class BarWidget : public QWidget {
     button.setGeometry(start + 1, 2, static_cast<int>(left + width) - start - 2, height() - 4);
     const bool words = height() >= heightForWords;
     const bool pictured = !button.icon().isNull();
-    button.setToolButtonStyle(!pictured ? Qt::ToolButtonTextOnly : words ? Qt::ToolButtonTextUnderIcon : Qt::ToolButtonIconOnly);
+    button.setToolButtonStyle(!pictured ? Qt::ToolButtonTextOnly
+                              : words   ? Qt::ToolButtonTextUnderIcon
+                                        : Qt::ToolButtonIconOnly);
     QFont font = this->font();
     font.setPixelSize(wordSize(font, static_cast<int>(width) - 8));
     button.setFont(font);

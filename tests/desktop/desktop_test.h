@@ -54,7 +54,9 @@ class DesktopTest : public testing::Test {
     FormView& view = window(form);
     QTest::keyClick(view.focusWidget() != nullptr ? view.focusWidget() : &view, key);
   }
-  void type(const Form& form, const char* text) { QTest::keyClicks(window(form).focusWidget(), QString::fromUtf8(text)); }
+  void type(const Form& form, const char* text) {
+    QTest::keyClicks(window(form).focusWidget(), QString::fromUtf8(text));
+  }
 
   /// Clicks or double-clicks a row of a list.
   void clickRow(const ListBox& list, int row);

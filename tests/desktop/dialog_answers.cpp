@@ -10,11 +10,17 @@
 
 namespace pantrigo {
 
-DialogAnswers::DialogAnswers() { qApp->installEventFilter(this); }
+DialogAnswers::DialogAnswers() {
+  qApp->installEventFilter(this);
+}
 
-DialogAnswers::~DialogAnswers() { qApp->removeEventFilter(this); }
+DialogAnswers::~DialogAnswers() {
+  qApp->removeEventFilter(this);
+}
 
-std::vector<SeenBox> DialogAnswers::boxes() { return std::exchange(seen_, {}); }
+std::vector<SeenBox> DialogAnswers::boxes() {
+  return std::exchange(seen_, {});
+}
 
 bool DialogAnswers::eventFilter(QObject* watched, QEvent* event) {
   if (event->type() != QEvent::Show || !watched->isWidgetType()) return false;

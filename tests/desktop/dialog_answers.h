@@ -17,8 +17,8 @@ struct SeenBox {
   std::string caption;
 };
 
-/// Answers message boxes and works dialogs as they come up, in the order of the answers given beforehand. A box that no answer waits for is
-/// dismissed and kept among the seen ones.
+/// Answers message boxes and works dialogs as they come up, in the order of the answers given beforehand. A box that no
+/// answer waits for is dismissed and kept among the seen ones.
 class DialogAnswers : public QObject {
  public:
   DialogAnswers();

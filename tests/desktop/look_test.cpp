@@ -80,10 +80,12 @@ TEST_P(ScreenAreaTest, HasTheShapeAndHoldsAWholeWindow) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Screens, ScreenAreaTest,
-                         testing::Values(Screen{800, 600}, Screen{1024, 768}, Screen{1920, 1080}, Screen{1280, 1024}, Screen{3840, 2160},
-                                         Screen{1080, 1920}));
+                         testing::Values(Screen{800, 600}, Screen{1024, 768}, Screen{1920, 1080}, Screen{1280, 1024},
+                                         Screen{3840, 2160}, Screen{1080, 1920}));
 
-TEST(ScreenAreaOfAWideScreen, IsAsHighAsTheScreen) { EXPECT_EQ(screenArea(QRect(0, 0, 1920, 1080)).area.width(), 1440); }
+TEST(ScreenAreaOfAWideScreen, IsAsHighAsTheScreen) {
+  EXPECT_EQ(screenArea(QRect(0, 0, 1920, 1080)).area.width(), 1440);
+}
 
 TEST(AccessibleNames, ComeFromTheLabelsNearby) {
   FrmBrowse browse;

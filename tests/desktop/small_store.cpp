@@ -31,22 +31,29 @@ void makeSmallStore(const std::filesystem::path& folder) {
   const std::filesystem::path file = folder / "PANTRIGO.MDB";
   Database::createStore(file);
   Database store = Database::OpenDatabase(file);
-  setSystem(store, {{"Measurement", "m"}, {"PartialFractions", "4"}, {"Fractions", true}, {"Cup", 250}, {"Tablespoon", 4},
-                    {"Kilojoules", true}, {"ShowRecipes", true}, {"ShowToolBars", true}});
+  setSystem(store, {{"Measurement", "m"},
+                    {"PartialFractions", "4"},
+                    {"Fractions", true},
+                    {"Cup", 250},
+                    {"Tablespoon", 4},
+                    {"Kilojoules", true},
+                    {"ShowRecipes", true},
+                    {"ShowToolBars", true}});
   addRow(store, "Course", {{"CourseId", 1}, {"Description", "Dessert"}});
   addRow(store, "Course", {{"CourseId", 2}, {"Description", "Main Course"}});
   addRow(store, "Nationality", {{"NationalityId", 1}, {"Description", "English"}});
   addRow(store, "Health", {{"HealthId", 1}, {"Description", "Low Fat"}});
   addRow(store, "Health", {{"HealthId", 2}, {"Description", "Vegetarian"}});
-  addRow(store, "Recipe", {{"RecipeId", 1},
-                           {"Title", "Apple Pie"},
-                           {"Course", 1},
-                           {"Nationality", 1},
-                           {"Serves", 6},
-                           {"PrepareTime", 30},
-                           {"Comment", pieComment},
-                           {"Method", pieMethod},
-                           {"Ingredients", "1~cup~flour~sifted~1~cup~500000~mg~apples~~500~g~"}});
+  addRow(store, "Recipe",
+         {{"RecipeId", 1},
+          {"Title", "Apple Pie"},
+          {"Course", 1},
+          {"Nationality", 1},
+          {"Serves", 6},
+          {"PrepareTime", 30},
+          {"Comment", pieComment},
+          {"Method", pieMethod},
+          {"Ingredients", "1~cup~flour~sifted~1~cup~500000~mg~apples~~500~g~"}});
   addRow(store, "RecipeHealth", {{"RecipeId", 1}, {"HealthId", 2}});
   addRow(store, "Recipe", {{"RecipeId", 2}, {"Title", "Beef Stew"}, {"Course", 2}, {"Serves", 4}, {"Meal", true}});
   addRow(store, "Recipe", {{"RecipeId", 3}, {"Title", "Carrot Cake"}, {"Serves", 8}, {"Source", "Notebook"}});

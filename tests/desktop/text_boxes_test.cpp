@@ -129,7 +129,8 @@ TEST_F(TextBoxesTest, TheWheelLeavesAComboBoxAloneThatHasNoFocus) {
   auto& course = widget<QComboBox>(run().frmDetail.cmbCourse);
   ASSERT_FALSE(course.hasFocus());
   const QPointF middle = course.rect().center();
-  QWheelEvent turn(middle, course.mapToGlobal(middle), {}, {0, -120}, Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+  QWheelEvent turn(middle, course.mapToGlobal(middle), {}, {0, -120}, Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase,
+                   false);
   QCoreApplication::sendEvent(&course, &turn);
   EXPECT_EQ(run().frmDetail.cmbCourse.Text(), "Dessert");
   EXPECT_FALSE(run().GLOBAL.gDetailChanged);
