@@ -14,15 +14,18 @@ namespace fs = std::filesystem;
 
 namespace {
 
-constexpr std::array<std::string_view, 24> dishes{"Soup",   "Stew",  "Pie",   "Cake",    "Salad",  "Curry", "Risotto", "Bread",
-                                                  "Tart",   "Gratin", "Pilaf", "Chowder", "Fritters", "Loaf", "Noodles", "Roast",
-                                                  "Crumble", "Sorbet", "Relish", "Dumplings", "Bake", "Hotpot", "Pancakes", "Terrine"};
-constexpr std::array<std::string_view, 24> mains{"Apple",  "Beef",    "Carrot", "Duck",   "Egg",    "Fennel", "Garlic", "Ham",
-                                                 "Lentil", "Mushroom", "Nut",   "Onion",  "Potato", "Quince", "Rhubarb", "Salmon",
-                                                 "Tomato", "Turnip",  "Walnut", "Pepper", "Leek",   "Chicken", "Barley", "Pumpkin"};
-constexpr std::array<std::string_view, 12> adjectives{"Spiced", "Cold", "Smoked", "Baked", "Sweet", "Sour",
+constexpr std::array<std::string_view, 24> dishes{"Soup",     "Stew",      "Pie",     "Cake",   "Salad",    "Curry",
+                                                  "Risotto",  "Bread",     "Tart",    "Gratin", "Pilaf",    "Chowder",
+                                                  "Fritters", "Loaf",      "Noodles", "Roast",  "Crumble",  "Sorbet",
+                                                  "Relish",   "Dumplings", "Bake",    "Hotpot", "Pancakes", "Terrine"};
+constexpr std::array<std::string_view, 24> mains{"Apple",  "Beef",   "Carrot",  "Duck",     "Egg",    "Fennel",
+                                                 "Garlic", "Ham",    "Lentil",  "Mushroom", "Nut",    "Onion",
+                                                 "Potato", "Quince", "Rhubarb", "Salmon",   "Tomato", "Turnip",
+                                                 "Walnut", "Pepper", "Leek",    "Chicken",  "Barley", "Pumpkin"};
+constexpr std::array<std::string_view, 12> adjectives{"Spiced", "Cold",   "Smoked", "Baked",  "Sweet",  "Sour",
                                                       "Quick",  "Rustic", "Winter", "Summer", "Golden", "Crisp"};
-constexpr std::string_view sentence = "Stir gently over a low heat until it thickens, then season and set aside to rest. ";
+constexpr std::string_view sentence =
+    "Stir gently over a low heat until it thickens, then season and set aside to rest. ";
 
 template <class Words>
 std::string_view pick(std::mt19937& random, const Words& words) {
@@ -30,8 +33,8 @@ std::string_view pick(std::mt19937& random, const Words& words) {
 }
 
 std::string title(std::mt19937& random, long id) {
-  return std::string(pick(random, adjectives)) + " " + std::string(pick(random, mains)) + " " + std::string(pick(random, dishes)) + " " +
-         plainText(id);
+  return std::string(pick(random, adjectives)) + " " + std::string(pick(random, mains)) + " " +
+         std::string(pick(random, dishes)) + " " + plainText(id);
 }
 
 std::string ingredients(std::mt19937& random) {
@@ -103,7 +106,11 @@ fs::path madeStore(const std::string& folderName, bool withRecipes) {
 
 }  // namespace
 
-fs::path largeStoreFolder() { return madeStore("bench-large", true); }
-fs::path emptyStoreFolder() { return madeStore("bench-empty", false); }
+fs::path largeStoreFolder() {
+  return madeStore("bench-large", true);
+}
+fs::path emptyStoreFolder() {
+  return madeStore("bench-empty", false);
+}
 
 }  // namespace pantrigo::bench

@@ -8,8 +8,8 @@ namespace pantrigo::bench {
 inline constexpr long recipeCount = 100000;
 inline constexpr long recipeBytes = 1500;
 
-/// The folder of a made store of `recipeCount` recipes, from a seeded generator; made at the first call and kept in the build folder for
-/// the next run.
+/// The folder of a made store of `recipeCount` recipes, from a seeded generator; made at the first call and kept in the
+/// build folder for the next run.
 [[nodiscard]] std::filesystem::path largeStoreFolder();
 
 /// A folder with a store of the same options and no recipes.

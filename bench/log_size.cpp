@@ -62,8 +62,8 @@ bool standingCursorKeepsTheLogSmall() {
   const std::uintmax_t standing = largestLog(Cursor::Standing);
   const std::uintmax_t none = largestLog(Cursor::None);
   const bool kept = standing <= none;
-  std::cout << (kept ? "kept    " : "MISSED  ") << "largest log in 10,000 updates: " << standing / 1024 << " KB with a standing cursor, "
-            << none / 1024 << " KB without\n";
+  std::cout << (kept ? "kept    " : "MISSED  ") << "largest log in 10,000 updates: " << standing / 1024
+            << " KB with a standing cursor, " << none / 1024 << " KB without\n";
   return kept;
 }
 

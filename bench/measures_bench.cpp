@@ -17,8 +17,9 @@ constexpr long rowCount = 1000;
 class HeldRow : public Cursor {
  public:
   explicit HeldRow(const Recordset& source) {
-    for (const std::string_view key : {"Measurement", "PartialFractions", "Fractions", "UseOriginalUOM", "Centilitres", "Centimetres",
-                                       "Centigrams", "Cup", "Tablespoon", "Settings", "SettingsIngredients"}) {
+    for (const std::string_view key :
+         {"Measurement", "PartialFractions", "Fractions", "UseOriginalUOM", "Centilitres", "Centimetres", "Centigrams",
+          "Cup", "Tablespoon", "Settings", "SettingsIngredients"}) {
       fields_.emplace(key, source.Field(key));
     }
   }
@@ -43,7 +44,8 @@ class HeldRow : public Cursor {
 void fillRows(Global& global) {
   global.gIngredientRows.assign(static_cast<std::size_t>(rowCount), IngredientRow());
   global.gIngredientLast = rowCount - 1;
-  const std::pair<const char*, const char*> amounts[] = {{"1 1/2", "cup"}, {"250", "g"}, {"3", "lb"}, {"2", "tbsp"}, {"1/4", "L"}};
+  const std::pair<const char*, const char*> amounts[] = {
+      {"1 1/2", "cup"}, {"250", "g"}, {"3", "lb"}, {"2", "tbsp"}, {"1/4", "L"}};
   for (std::size_t row = 0; row < global.gIngredientRows.size(); ++row) {
     IngredientRow& target = global.gIngredientRows[row];
     const auto& [quantity, unit] = amounts[row % std::size(amounts)];
@@ -69,10 +71,14 @@ void showRows(benchmark::State& state, SystemRow systemRow) {
   run.loop.dispatch([&] { run.loop.End(); });
 }
 
-void IngredientsStored(benchmark::State& state) { showRows(state, SystemRow::Stored); }
+void IngredientsStored(benchmark::State& state) {
+  showRows(state, SystemRow::Stored);
+}
 BENCHMARK(IngredientsStored)->Repetitions(repetitions)->ReportAggregatesOnly(true)->Unit(benchmark::kMicrosecond);
 
-void IngredientsHeld(benchmark::State& state) { showRows(state, SystemRow::Held); }
+void IngredientsHeld(benchmark::State& state) {
+  showRows(state, SystemRow::Held);
+}
 BENCHMARK(IngredientsHeld)->Repetitions(repetitions)->ReportAggregatesOnly(true)->Unit(benchmark::kMicrosecond);
 
 }  // namespace

@@ -27,8 +27,10 @@ PlainSqlite::PlainSqlite(const fs::path& folder) {
   check(sqlite3_open(plainCopy(folder).c_str(), &connection_));
   registerSqlFunctions(connection_);
   check(sqlite3_exec(connection_, "create index if not exists PlainTitle on Recipe(Title)", nullptr, nullptr, nullptr));
-  check(sqlite3_prepare_v2(connection_, "select Title, Meal from Recipe indexed by PlainTitle order by Title", -1, &walk_, nullptr));
-  check(sqlite3_prepare_v2(connection_, "select RecipeId from Recipe indexed by RecipeIdxTitle where Title = ?1", -1, &find_, nullptr));
+  check(sqlite3_prepare_v2(connection_, "select Title, Meal from Recipe indexed by PlainTitle order by Title", -1,
+                           &walk_, nullptr));
+  check(sqlite3_prepare_v2(connection_, "select RecipeId from Recipe indexed by RecipeIdxTitle where Title = ?1", -1,
+                           &find_, nullptr));
 }
 
 PlainSqlite::~PlainSqlite() {

@@ -7,7 +7,8 @@
 
 namespace pantrigo::bench {
 
-/// The yardstick: plain loops of the engine's C interface over a copy of the made store that has one more index, on `Title` alone.
+/// The yardstick: plain loops of the engine's C interface over a copy of the made store that has one more index, on
+/// `Title` alone.
 class PlainSqlite {
  public:
   /// Makes the copy at the first call and opens it with the engine's own settings and the store's collation.

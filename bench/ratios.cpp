@@ -41,7 +41,8 @@ int runRatios(int argumentCount, char** argumentValues, const std::vector<Ratio>
     if (measured == 0 || yardstick == 0) continue;
     const double value = measured / yardstick;
     const bool kept = value <= ratio.bound;
-    std::cout << (kept ? "kept    " : "MISSED  ") << ratio.name << ": " << value << " of at most " << ratio.bound << '\n';
+    std::cout << (kept ? "kept    " : "MISSED  ") << ratio.name << ": " << value << " of at most " << ratio.bound
+              << '\n';
     if (!kept) status = 1;
   }
   return status;

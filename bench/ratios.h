@@ -15,7 +15,8 @@ struct Ratio {
   double bound;
 };
 
-/// Runs the registered benchmarks (each several times, the medians count) and prints a line a ratio. Gives 1 when a bound is missed.
+/// Runs the registered benchmarks (each several times, the medians count) and prints a line a ratio. Gives 1 when a
+/// bound is missed.
 int runRatios(int argumentCount, char** argumentValues, const std::vector<Ratio>& ratios);
 
 }  // namespace pantrigo::bench

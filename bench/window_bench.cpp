@@ -1,4 +1,5 @@
-// The program with its real windows, on a platform without a screen: start-up against the plain loop, and the memory that a long list takes.
+// The program with its real windows, on a platform without a screen: start-up against the plain loop, and the memory
+// that a long list takes.
 
 #include <benchmark/benchmark.h>
 #include <sys/wait.h>
@@ -58,7 +59,8 @@ long privateKilobytes() {
   return sum;
 }
 
-/// Runs the program over a store in a process of its own, and gives that process's private memory with the list on show.
+/// Runs the program over a store in a process of its own, and gives that process's private memory with the list on
+/// show.
 long measuredMemory(const std::filesystem::path& folder) {
   int pipeEnds[2];
   if (pipe(pipeEnds) != 0) std::abort();
@@ -89,8 +91,9 @@ bool memoryKept() {
   const long listed = measuredMemory(largeStoreFolder());
   const long empty = measuredMemory(emptyStoreFolder());
   const bool kept = listed - empty <= memoryBound;
-  std::cout << (kept ? "kept    " : "MISSED  ") << "private memory of 100,000 titles above an empty list: " << (listed - empty) / 1024
-            << " MB of at most " << memoryBound / 1024 << " (" << listed / 1024 << " MB in all)\n";
+  std::cout << (kept ? "kept    " : "MISSED  ")
+            << "private memory of 100,000 titles above an empty list: " << (listed - empty) / 1024 << " MB of at most "
+            << memoryBound / 1024 << " (" << listed / 1024 << " MB in all)\n";
   return kept;
 }
 
@@ -103,6 +106,7 @@ int main(int argumentCount, char** argumentValues) {
   const bool memory = memoryKept();
   QApplication application(argumentCount, argumentValues);
   pantrigo::applyLook(application, 1);
-  const int ratios = runRatios(argumentCount, argumentValues, {{"start-up, with the window", "StartWindow", "StartPlain", 5.0}});
+  const int ratios =
+      runRatios(argumentCount, argumentValues, {{"start-up, with the window", "StartWindow", "StartPlain", 5.0}});
   return memory && ratios == 0 ? 0 : 1;
 }

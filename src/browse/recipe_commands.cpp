@@ -12,7 +12,9 @@ namespace pantrigo {
 
 namespace {
 
-bool hasSelection(Run& run) { return run.frmBrowse.lstTitles.ListIndex() >= 0; }
+bool hasSelection(Run& run) {
+  return run.frmBrowse.lstTitles.ListIndex() >= 0;
+}
 
 std::string selectedTitle(Run& run) {
   ListBox& titles = run.frmBrowse.lstTitles;

@@ -14,7 +14,8 @@ void openSelectedRow(Run& run);
 void subOpenSelected(Run& run);
 /// Deletes the selected recipe after a question, or asks for a selection.
 void subDeleteSelected(Run& run);
-/// Deletes the recipe `gSelectedTitle` after a question: its first picture, its links, its row, and its row of the list.
+/// Deletes the recipe `gSelectedTitle` after a question: its first picture, its links, its row, and its row of the
+/// list.
 void subDeleteTitle(Run& run);
 /// Takes the selected recipe into the meal or out of it.
 void subListToggleMeal(Run& run);

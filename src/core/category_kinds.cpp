@@ -9,33 +9,36 @@ namespace {
 constexpr CategoryKind single(std::string_view name, std::string_view idField, std::string_view descriptionIndex,
                               std::string_view idIndex, std::string_view useIndex, Recordset Global::*cursor,
                               ComboBox FrmBrowse::*browseCombo, ComboBox FrmDetail::*detailCombo) {
-  return {name, idField, descriptionIndex, idIndex, useIndex, cursor,  browseCombo, detailCombo, {},
-          {},   nullptr, nullptr,          nullptr, nullptr,  nullptr, {}};
+  return {name, idField, descriptionIndex, idIndex, useIndex, cursor,  browseCombo, detailCombo,
+          {},   {},      nullptr,          nullptr, nullptr,  nullptr, nullptr,     {}};
 }
 
 const std::array<CategoryKind, categoryKindCount> kinds{{
-    single("Nationality", "NationalityId", "NationalityIdxDescription", "NationalityIdxNationalityId", "RecipeIdxNationality",
-           &Global::gNationality, &FrmBrowse::cmbNationality, &FrmDetail::cmbNationality),
+    single("Nationality", "NationalityId", "NationalityIdxDescription", "NationalityIdxNationalityId",
+           "RecipeIdxNationality", &Global::gNationality, &FrmBrowse::cmbNationality, &FrmDetail::cmbNationality),
     single("Course", "CourseId", "CourseIdxDescription", "CourseIdxCourseId", "RecipeIdxCourse", &Global::gCourse,
            &FrmBrowse::cmbCourse, &FrmDetail::cmbCourse),
-    single("Cooking", "CookingId", "CookingIdxDescription", "CookingIdxCookingId", "RecipeIdxCooking", &Global::gCooking,
-           &FrmBrowse::cmbCooking, &FrmDetail::cmbCooking),
-    single("Ease", "EaseId", "EaseIdxDescription", "EaseIdxEaseId", "RecipeIdxEase", &Global::gEase, &FrmBrowse::cmbEase,
-           &FrmDetail::cmbEase),
-    {"Health", "HealthId", "HealthIdxDescription", "HealthIdxHealthId", "RecipeHealthIdxHealthId", &Global::gHealth, nullptr,
-     nullptr, "RecipeHealth", "RecipeHealthIdxRecipeId", &Global::gRecipeHealth, &FrmBrowse::lstHealth, &FrmDetail::lstHealth,
-     &FrmBrowse::lblHealth, &FrmDetail::lblHealth, "Health"},
-    {"Other", "OtherId", "OtherIdxDescription", "OtherIdxOtherId", "RecipeOtherIdxOtherId", &Global::gOther, nullptr, nullptr,
-     "RecipeOther", "RecipeOtherIdxRecipeId", &Global::gRecipeOther, &FrmBrowse::lstOther, &FrmDetail::lstOther,
-     &FrmBrowse::lblOther, &FrmDetail::lblOther, "Other Categories"},
+    single("Cooking", "CookingId", "CookingIdxDescription", "CookingIdxCookingId", "RecipeIdxCooking",
+           &Global::gCooking, &FrmBrowse::cmbCooking, &FrmDetail::cmbCooking),
+    single("Ease", "EaseId", "EaseIdxDescription", "EaseIdxEaseId", "RecipeIdxEase", &Global::gEase,
+           &FrmBrowse::cmbEase, &FrmDetail::cmbEase),
+    {"Health", "HealthId", "HealthIdxDescription", "HealthIdxHealthId", "RecipeHealthIdxHealthId", &Global::gHealth,
+     nullptr, nullptr, "RecipeHealth", "RecipeHealthIdxRecipeId", &Global::gRecipeHealth, &FrmBrowse::lstHealth,
+     &FrmDetail::lstHealth, &FrmBrowse::lblHealth, &FrmDetail::lblHealth, "Health"},
+    {"Other", "OtherId", "OtherIdxDescription", "OtherIdxOtherId", "RecipeOtherIdxOtherId", &Global::gOther, nullptr,
+     nullptr, "RecipeOther", "RecipeOtherIdxRecipeId", &Global::gRecipeOther, &FrmBrowse::lstOther,
+     &FrmDetail::lstOther, &FrmBrowse::lblOther, &FrmDetail::lblOther, "Other Categories"},
 }};
 
 }  // namespace
 
-const std::array<CategoryKind, categoryKindCount>& categoryKinds() { return kinds; }
+const std::array<CategoryKind, categoryKindCount>& categoryKinds() {
+  return kinds;
+}
 
 const CategoryKind& categoryKind(std::string_view name) {
-  const auto found = std::find_if(kinds.begin(), kinds.end(), [&](const CategoryKind& kind) { return kind.name == name; });
+  const auto found =
+      std::find_if(kinds.begin(), kinds.end(), [&](const CategoryKind& kind) { return kind.name == name; });
   if (found == kinds.end()) throw RuntimeError(5);
   return *found;
 }

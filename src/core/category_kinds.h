@@ -8,7 +8,8 @@
 
 namespace pantrigo {
 
-/// What the six category kinds have in common. Everything that goes over the kinds, or is told one by name, goes by this table.
+/// What the six category kinds have in common. Everything that goes over the kinds, or is told one by name, goes by
+/// this table.
 struct CategoryKind {
   /// The kind's name, which is also its table, and for the first four the field of `Recipe`.
   std::string_view name;

@@ -13,6 +13,8 @@ enum Colour : int { black = 0, darkBlue = 1, darkYellow = 6, white = 15 };
 }
 
 /// Colour of the title in the detail window.
-[[nodiscard]] constexpr int titleColour(bool meal) { return meal ? darkYellow : black; }
+[[nodiscard]] constexpr int titleColour(bool meal) {
+  return meal ? darkYellow : black;
+}
 
 }  // namespace pantrigo

@@ -8,13 +8,15 @@
 
 namespace pantrigo {
 
-/// One ingredient row. Columns, counted from 1: base quantity, base unit, description, preparation note, quantity as entered, unit as
-/// entered.
+/// One ingredient row. Columns, counted from 1: base quantity, base unit, description, preparation note, quantity as
+/// entered, unit as entered.
 class IngredientRow {
  public:
   static constexpr int columnCount = 6;
   [[nodiscard]] std::string& operator[](int column) { return columns_[static_cast<std::size_t>(column - 1)]; }
-  [[nodiscard]] const std::string& operator[](int column) const { return columns_[static_cast<std::size_t>(column - 1)]; }
+  [[nodiscard]] const std::string& operator[](int column) const {
+    return columns_[static_cast<std::size_t>(column - 1)];
+  }
   friend bool operator==(const IngredientRow&, const IngredientRow&) = default;
 
  private:

@@ -2,7 +2,9 @@
 
 namespace pantrigo {
 
-bool toolBarsShown(Run& run) { return run.GLOBAL.gSystem.Field("ShowToolBars").truth(); }
+bool toolBarsShown(Run& run) {
+  return run.GLOBAL.gSystem.Field("ShowToolBars").truth();
+}
 
 void applyToolBarLayout(Run& run) {
   FrmBrowse& browse = run.frmBrowse;

@@ -20,6 +20,8 @@ void sizeToolBar(Run& run, ToolBar& toolBar);
 void placeForm(Run& run, Form& form, double scale);
 
 /// Left and top for a form that is not scaled, by the same rule.
-inline void centreForm(Run& run, Form& form) { placeForm(run, form, 1); }
+inline void centreForm(Run& run, Form& form) {
+  placeForm(run, form, 1);
+}
 
 }  // namespace pantrigo

@@ -25,10 +25,13 @@ BoxAnswer funConfirmDelete(Run& run) {
 }
 
 void subNoSuchRecipe(Run& run) {
-  run.loop.MsgBox("No recipe with this title exists. You may need to add the recipe first.", boxExclamation, captionSorry);
+  run.loop.MsgBox("No recipe with this title exists. You may need to add the recipe first.", boxExclamation,
+                  captionSorry);
 }
 
-void subNotNumeric(Run& run) { run.loop.MsgBox("Value entered must be numeric.", boxStop, captionError); }
+void subNotNumeric(Run& run) {
+  run.loop.MsgBox("Value entered must be numeric.", boxStop, captionError);
+}
 
 void subSelectRecipe(Run& run) {
   run.loop.MsgBox("Please select a recipe to perform this function.", boxStop, captionError);
@@ -38,6 +41,8 @@ void subShowHelp(Run& run, int context) {
   run.toolkit.showHelp({std::string(helpFile), helpCommandContext, context});
 }
 
-void showHelpSearch(Run& run) { run.toolkit.showHelp({std::string(helpFile), helpCommandPartialKey, 0}); }
+void showHelpSearch(Run& run) {
+  run.toolkit.showHelp({std::string(helpFile), helpCommandPartialKey, 0});
+}
 
 }  // namespace pantrigo

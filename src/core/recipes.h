@@ -10,8 +10,8 @@ namespace pantrigo {
 /// Puts `gRecipe` on the recipe of that title; gives whether there is one.
 [[nodiscard]] bool seekTitle(Global& global, std::string_view title);
 
-/// Takes the recipe that `gRecipe` stands on into the meal or out of it, at once; gives whether it is in it now. Error 3021 without a
-/// current row.
+/// Takes the recipe that `gRecipe` stands on into the meal or out of it, at once; gives whether it is in it now. Error
+/// 3021 without a current row.
 bool flipMeal(Global& global);
 
 /// A nutrition value of a recipe: its field, and where it is held for the open recipe.

@@ -13,8 +13,8 @@
 
 namespace pantrigo {
 
-/// What every routine is handed: the platform, the shared state and the forms of one run of the program. Two runs can live
-/// in one process.
+/// What every routine is handed: the platform, the shared state and the forms of one run of the program. Two runs can
+/// live in one process.
 struct Run {
   /// `folder` is the current folder of the run, where the store lies.
   Run(Toolkit& kit, std::filesystem::path folder) : toolkit(kit), loop(kit), windows(loop), files(std::move(folder)) {}

@@ -65,9 +65,9 @@ void subOpenStore(Run& run) {
 
 void closeStore(Run& run) {
   Global& global = run.GLOBAL;
-  for (Recordset* recordset : {&global.gRecipe, &global.gNationality, &global.gCourse, &global.gCooking, &global.gEase,
-                               &global.gHealth, &global.gOther, &global.gUnit, &global.gRecipeHealth, &global.gRecipeOther,
-                               &global.gSystem}) {
+  for (Recordset* recordset :
+       {&global.gRecipe, &global.gNationality, &global.gCourse, &global.gCooking, &global.gEase, &global.gHealth,
+        &global.gOther, &global.gUnit, &global.gRecipeHealth, &global.gRecipeOther, &global.gSystem}) {
     guarded([&] { recordset->Close(); });
   }
   guarded([&] { global.gDatabase.Close(); });

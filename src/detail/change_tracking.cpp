@@ -30,7 +30,9 @@ bool funNoTitle(Run& run) {
   return true;
 }
 
-void detailChanged(Run& run) { run.GLOBAL.gDetailChanged = true; }
+void detailChanged(Run& run) {
+  run.GLOBAL.gDetailChanged = true;
+}
 
 void txtComments_Change(Run& run) {
   run.GLOBAL.gDetailChanged = true;
@@ -42,9 +44,13 @@ void txtMethod_Change(Run& run) {
   run.GLOBAL.gMethodChanged = true;
 }
 
-void lstHealth_Click(Run& run) { listClicked(run, categoryKind("Health"), &Global::gHealthChanged); }
+void lstHealth_Click(Run& run) {
+  listClicked(run, categoryKind("Health"), &Global::gHealthChanged);
+}
 
-void lstOther_Click(Run& run) { listClicked(run, categoryKind("Other"), &Global::gOtherChanged); }
+void lstOther_Click(Run& run) {
+  listClicked(run, categoryKind("Other"), &Global::gOtherChanged);
+}
 
 void lblServes_Click(Run& run) {
   run.GLOBAL.gDetailChanged = true;

@@ -4,7 +4,8 @@
 
 namespace pantrigo {
 
-/// Asks, when something was changed, whether the changes may be lost. Gives true when they are to be kept; a Yes clears the mark.
+/// Asks, when something was changed, whether the changes may be lost. Gives true when they are to be kept; a Yes clears
+/// the mark.
 [[nodiscard]] bool funKeepChanges(Run& run);
 
 /// Whether the title is empty, which is reported.

@@ -9,7 +9,9 @@ namespace {
 enum class Arrangement { WithPicture, WithoutPicture };
 
 /// What the frames below the tool bar move up by, and the lists grow by, when it is off, in twips at design size.
-double roomGained(Run& run) { return toolBarsShown(run) ? 0 : toolBarHeight; }
+double roomGained(Run& run) {
+  return toolBarsShown(run) ? 0 : toolBarHeight;
+}
 
 void place(Control& control, Box box, double scale) {
   control.setBox({box.left * scale, box.top * scale, box.width * scale, box.height * scale});
@@ -95,13 +97,14 @@ void arrange(Run& run, Arrangement arrangement) {
 
 void showMovedGroups(Run& run) {
   FrmDetail& form = run.frmDetail;
-  Control* const moved[] = {&form.lblTime,     &form.lblServes,      &form.lblPrepare,  &form.lblCook,    &form.txtServes,
-                            &form.lblSettings, &form.txtPrepareTime, &form.txtCookTime, &form.fmeGeneral, &form.fmeComments};
+  Control* const moved[] = {&form.lblTime,    &form.lblServes,   &form.lblPrepare,     &form.lblCook,
+                            &form.txtServes,  &form.lblSettings, &form.txtPrepareTime, &form.txtCookTime,
+                            &form.fmeGeneral, &form.fmeComments};
   for (Control* control : moved) control->setVisible(true);
 }
 
-// The groups are moved while they are visible: the view paints only when the event is over, so that nobody sees an intermediate state,
-// and a focused box of theirs keeps the focus.
+// The groups are moved while they are visible: the view paints only when the event is over, so that nobody sees an
+// intermediate state, and a focused box of theirs keeps the focus.
 
 void layoutWithPicture(Run& run) {
   arrange(run, Arrangement::WithPicture);

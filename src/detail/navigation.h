@@ -4,7 +4,8 @@
 
 namespace pantrigo {
 
-// Navigation steps through the titles of the main window's list, never through the store. Changes are asked about first.
+// Navigation steps through the titles of the main window's list, never through the store. Changes are asked about
+// first.
 
 void subFirstRecipe(Run& run);
 /// From the first row, and from no selection, lands on row 0.

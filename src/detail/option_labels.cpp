@@ -9,7 +9,8 @@ struct MeasurementCaption {
   std::string_view caption;
 };
 
-constexpr MeasurementCaption measurementCaptions[] = {{"m", "(metric)"}, {"i", "(UK imperial)"}, {"u", "(US imperial)"}};
+constexpr MeasurementCaption measurementCaptions[] = {
+    {"m", "(metric)"}, {"i", "(UK imperial)"}, {"u", "(US imperial)"}};
 
 }  // namespace
 

@@ -16,7 +16,8 @@ namespace pantrigo {
 namespace {
 
 constexpr std::string_view pictureHint =
-    "Double click mouse here to display a scanned image with this recipe. Note, the image must be in Windows Bitmap format and the "
+    "Double click mouse here to display a scanned image with this recipe. Note, the image must be in Windows Bitmap "
+    "format and the "
     "file name must have a .bmp extension, e.g. satay.bmp.";
 
 void showTitle(Run& run) {
@@ -153,7 +154,8 @@ void subShowRecipe(Run& run) {
   }
   form.lstHealth.clearSelection();
   form.lstOther.clearSelection();
-  // The two list flags stay: a discarded list change is still flagged for the next recipe, whose update then writes its links anew.
+  // The two list flags stay: a discarded list change is still flagged for the next recipe, whose update then writes its
+  // links anew.
   global.gIngredientsChanged = false;
   global.gMethodChanged = false;
   global.gCommentsChanged = false;

@@ -4,8 +4,8 @@
 
 namespace pantrigo {
 
-/// Loads the recipe `gSelectedTitle` from the store into the form; blanks the form when it is empty, and leaves it as it stands when
-/// there is no such recipe.
+/// Loads the recipe `gSelectedTitle` from the store into the form; blanks the form when it is empty, and leaves it as
+/// it stands when there is no such recipe.
 void subShowRecipe(Run& run);
 
 }  // namespace pantrigo

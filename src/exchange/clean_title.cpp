@@ -7,10 +7,14 @@ namespace pantrigo {
 
 namespace {
 
-bool isSkipped(char32_t character) { return character == U'?' || character == U'!' || character == U'*'; }
+bool isSkipped(char32_t character) {
+  return character == U'?' || character == U'!' || character == U'*';
+}
 
 /// Characters after which a word starts.
-bool startsWord(char32_t before) { return std::u32string_view(U"/-(\" ?*").find(before) != std::u32string_view::npos; }
+bool startsWord(char32_t before) {
+  return std::u32string_view(U"/-(\" ?*").find(before) != std::u32string_view::npos;
+}
 
 }  // namespace
 

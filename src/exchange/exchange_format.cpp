@@ -39,10 +39,13 @@ constexpr ExchangeTag tags[] = {
 
 }  // namespace
 
-std::span<const ExchangeTag> exchangeTags() { return tags; }
+std::span<const ExchangeTag> exchangeTags() {
+  return tags;
+}
 
 const ExchangeTag* findExchangeTag(std::string_view tag) {
-  const auto* found = std::find_if(std::begin(tags), std::end(tags), [&](const ExchangeTag& row) { return row.tag == tag; });
+  const auto* found =
+      std::find_if(std::begin(tags), std::end(tags), [&](const ExchangeTag& row) { return row.tag == tag; });
   return found == std::end(tags) ? nullptr : found;
 }
 

@@ -17,8 +17,8 @@ std::string nextSuffix(const std::string& suffix) {
 
 }  // namespace
 
-ExchangeReader::ExchangeReader(Global& global, const Files& files, std::string pictureFolder, DuplicateTitles duplicates,
-                               ImportEvents events)
+ExchangeReader::ExchangeReader(Global& global, const Files& files, std::string pictureFolder,
+                               DuplicateTitles duplicates, ImportEvents events)
     : global_(global),
       files_(files),
       pictureFolder_(std::move(pictureFolder)),

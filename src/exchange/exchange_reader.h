@@ -31,19 +31,21 @@ struct ImportCounts {
   long warnings = 0;
 };
 
-/// Reads an exchange file into the store, line by line: the title line starts a new record on `gRecipe`, each later line writes its field,
-/// and the end line stores it. Categories that the store doesn't know are added. Ids come from counters that are read from
-/// `System` at the start and are written back by `saveCounters`.
+/// Reads an exchange file into the store, line by line: the title line starts a new record on `gRecipe`, each later
+/// line writes its field, and the end line stores it. Categories that the store doesn't know are added. Ids come from
+/// counters that are read from `System` at the start and are written back by `saveCounters`.
 ///
-/// Until the walk first finds a category that exists already, a failing step is a run-time error of `walk`; from then on a step that
-/// fails is skipped and the next one runs.
+/// Until the walk first finds a category that exists already, a failing step is a run-time error of `walk`; from then
+/// on a step that fails is skipped and the next one runs.
 class ExchangeReader {
  public:
   /// The recordsets of `global` are open; `System` and the link tables are opened anew here. Pictures are copied from
   /// `pictureFolder` to `gStartDir`.
-  ExchangeReader(Global& global, const Files& files, std::string pictureFolder, DuplicateTitles duplicates, ImportEvents events);
+  ExchangeReader(Global& global, const Files& files, std::string pictureFolder, DuplicateTitles duplicates,
+                 ImportEvents events);
 
-  /// Counts the recipes of the file: the lines that begin with "00:", but for the file's very last line. Error 62 for an empty file.
+  /// Counts the recipes of the file: the lines that begin with "00:", but for the file's very last line. Error 62 for
+  /// an empty file.
   [[nodiscard]] static long countRecipes(TextReader& file);
 
   /// The walk, from the file's start to its end or a stop.

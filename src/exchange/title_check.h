@@ -17,8 +17,8 @@ struct CheckedTitle {
   std::string warning;
 };
 
-/// Cleans the title and looks it up by the title index. An accepted recipe is given the next id in `gImageRecipeId`; a taken title gets a
-/// blank and the first free number behind it, or is refused.
+/// Cleans the title and looks it up by the title index. An accepted recipe is given the next id in `gImageRecipeId`; a
+/// taken title gets a blank and the first free number behind it, or is refused.
 [[nodiscard]] CheckedTitle checkTitle(Global& global, std::string_view title, DuplicateTitles duplicates);
 
 }  // namespace pantrigo

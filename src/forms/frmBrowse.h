@@ -5,8 +5,8 @@
 
 namespace pantrigo {
 
-/// The main window: the filters at the left, on two pages that share one space, and the list of titles beside them. Places and
-/// sizes are twips at the design width of 9600.
+/// The main window: the filters at the left, on two pages that share one space, and the list of titles beside them.
+/// Places and sizes are twips at the design width of 9600.
 struct FrmBrowse : Form {
   FrmBrowse();
 

@@ -28,7 +28,8 @@ std::vector<ToolButton> FrmDetail::toolButtons() {
 
 FrmDetail::FrmDetail() : Form("frmDetail", "Recipe Detail", 9600, 6630) {
   setKeyPreview(true);
-  for (Label* clickable : {&lblNationality, &lblCourse, &lblCooking, &lblEase, &lblHealth, &lblOther, &lblPicture, &lblServes, &lblSettings}) {
+  for (Label* clickable : {&lblNationality, &lblCourse, &lblCooking, &lblEase, &lblHealth, &lblOther, &lblPicture,
+                           &lblServes, &lblSettings}) {
     clickable->setMousePointer(pointerCustom);
   }
   sealDesign(&txtTitle);

@@ -5,8 +5,8 @@
 
 namespace pantrigo {
 
-/// The window of one recipe, a working copy that is typed over. Places and sizes are twips at the design width of 9600; those of
-/// the General, Comments and picture groups are set by the two layouts.
+/// The window of one recipe, a working copy that is typed over. Places and sizes are twips at the design width of 9600;
+/// those of the General, Comments and picture groups are set by the two layouts.
 struct FrmDetail : Form {
   FrmDetail();
 

@@ -32,7 +32,8 @@ FrmOven::FrmOven() : Form("frmOven", "Oven Temperature Conversion Chart", 4500, 
     const std::size_t row = place / columnCount;
     const std::size_t column = place % columnCount;
     const Box box{columnLefts[column], firstRowTop + rowDistance * static_cast<double>(row), 600, 225};
-    labels[place] = std::make_unique<Label>(fmeOven, "Label" + plainText(static_cast<long>(place + 1)), chart[row][column], box);
+    labels[place] =
+        std::make_unique<Label>(fmeOven, "Label" + plainText(static_cast<long>(place + 1)), chart[row][column], box);
   }
   setCancelButton(cmdCancel);
   sealDesign(&cmdCancel);

@@ -9,8 +9,8 @@
 
 namespace pantrigo {
 
-/// The oven temperature chart: twelve rows of centigrade, gas mark and fahrenheit. The centigrade column keeps the chart's own
-/// round figures and is not the arithmetic conversion.
+/// The oven temperature chart: twelve rows of centigrade, gas mark and fahrenheit. The centigrade column keeps the
+/// chart's own round figures and is not the arithmetic conversion.
 struct FrmOven : Form {
   FrmOven();
 

@@ -23,15 +23,16 @@ struct BracketUnit {
   double milligrams;
 };
 
-/// Tested in this order, and the first that the word contains counts: "g)" stands before "kg)" and is contained in it, so a weight in
-/// kilograms yields an amount that is no number, and is ignored.
+/// Tested in this order, and the first that the word contains counts: "g)" stands before "kg)" and is contained in it,
+/// so a weight in kilograms yields an amount that is no number, and is ignored.
 constexpr BracketUnit bracketUnits[] = {
     {"oz)", "oz", 3, 28349.523125}, {"lb)", "lb", 3, 453592.37}, {"mg)", "mg", 3, 1},
     {"cg)", "cg", 3, 10},           {"g)", "g", 2, 1000},        {"kg)", "kg", 3, 1000000},
 };
 
 const BracketUnit* findBracketUnit(Global& global, const std::string& word) {
-  if (global.gBracketClose == 0 || global.gBracketOpen == 0 || global.gBracketClose <= global.gBracketOpen) return nullptr;
+  if (global.gBracketClose == 0 || global.gBracketOpen == 0 || global.gBracketClose <= global.gBracketOpen)
+    return nullptr;
   for (const BracketUnit& weight : bracketUnits) {
     if (word.find(weight.found) == std::string::npos) continue;
     const long length = global.gBracketClose - (global.gBracketOpen + weight.behindAmount);
@@ -73,7 +74,8 @@ void applyBracketedWeight(Run& run, IngredientRow& row) {
   global.gBracketClose = InStr(row[6], ")");
   const BracketUnit* weight = findBracketUnit(global, row[6]);
   if (weight == nullptr) return;
-  row[1] = weight->milligrams == 1 ? global.gBracketAmount : plainText(*toNumber(global.gBracketAmount) * weight->milligrams);
+  row[1] = weight->milligrams == 1 ? global.gBracketAmount
+                                   : plainText(*toNumber(global.gBracketAmount) * weight->milligrams);
   row[2] = "mg";
 }
 

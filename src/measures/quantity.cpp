@@ -22,15 +22,16 @@ struct Fraction {
   std::string_view decimal;
 };
 
-/// The search goes in this order, and the first fraction that is found anywhere counts. The decimals are the program's own: thirds are cut to
-/// two places, and eighths stand at a near tenth.
+/// The search goes in this order, and the first fraction that is found anywhere counts. The decimals are the program's
+/// own: thirds are cut to two places, and eighths stand at a near tenth.
 constexpr Fraction fractions[] = {
     {"1/2", ".5"},  {"1/4", ".25"}, {"1/3", ".33"}, {"2/3", ".66"}, {"3/4", ".75"}, {"1/10", ".1"},
     {"1/5", ".2"},  {"3/10", ".3"}, {"2/5", ".4"},  {"3/5", ".6"},  {"7/10", ".7"}, {"4/5", ".8"},
     {"9/10", ".9"}, {"1/8", ".1"},  {"3/8", ".4"},  {"5/8", ".6"},  {"7/8", ".9"},
 };
 
-/// A band of the part behind the whole number, in ten-thousandths, closed at both ends, and how the step above it is written.
+/// A band of the part behind the whole number, in ten-thousandths, closed at both ends, and how the step above it is
+/// written.
 struct Band {
   long from;
   long to;
@@ -38,8 +39,8 @@ struct Band {
 };
 
 constexpr Band tenthFractions[] = {
-    {1, 1000, "1/10"},    {1001, 2000, "1/5"},  {2001, 3000, "3/10"}, {3001, 4000, "2/5"},  {4001, 5000, "1/2"},
-    {5001, 6000, "3/5"},  {6001, 7000, "7/10"}, {7001, 8000, "4/5"},  {8001, 9000, "9/10"}, {9001, 10000, "1"},
+    {1, 1000, "1/10"},   {1001, 2000, "1/5"},  {2001, 3000, "3/10"}, {3001, 4000, "2/5"},  {4001, 5000, "1/2"},
+    {5001, 6000, "3/5"}, {6001, 7000, "7/10"}, {7001, 8000, "4/5"},  {8001, 9000, "9/10"}, {9001, 10000, "1"},
 };
 constexpr Band tenthDecimals[] = {
     {1, 1000, "0.1"},    {1001, 2000, "0.2"}, {2001, 3000, "0.3"}, {3001, 4000, "0.4"}, {4001, 5000, "0.5"},
@@ -47,8 +48,8 @@ constexpr Band tenthDecimals[] = {
 };
 constexpr Band quarterFractions[] = {{1, 2500, "1/4"}, {2501, 5000, "1/2"}, {5001, 7500, "3/4"}, {7501, 10000, "1"}};
 constexpr Band quarterDecimals[] = {{1, 2500, "0.25"}, {2501, 5000, "0.5"}, {5001, 7500, "0.75"}, {7501, 10000, "1"}};
-/// The second band of the thirds as fractions ends at 666666 wholes, so that every part above a third shows as two thirds and never
-/// rounds up to the next whole number.
+/// The second band of the thirds as fractions ends at 666666 wholes, so that every part above a third shows as two
+/// thirds and never rounds up to the next whole number.
 constexpr Band thirdFractions[] = {{1, 3333, "1/3"}, {3334, 6666660000, "2/3"}};
 constexpr Band thirdDecimals[] = {{1, 3333, "0.3333"}, {3334, 6666, "0.6666"}, {6667, 10000, "1"}};
 /// In halves a whole amount counts as having a part of 1, and is written as the next whole number.

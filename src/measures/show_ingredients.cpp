@@ -33,8 +33,9 @@ constexpr ShortWord shortWords[] = {
     {"US qrt", "qrt"},     {"UK qrt", "qrt"},     {"US gal", "gal"},   {"UK gal", "gal"},
 };
 
-constexpr std::string_view pluralsWithS[] = {"bag",  "bar",     "bottle",  "can",  "carton", "clove", "cube",  "cup",  "jar",
-                                             "UK pint", "US pint", "roll", "slice", "stem",  "stick", "stone", "tube", "pint"};
+constexpr std::string_view pluralsWithS[] = {"bag",   "bar",  "bottle", "can",     "carton",  "clove",
+                                             "cube",  "cup",  "jar",    "UK pint", "US pint", "roll",
+                                             "slice", "stem", "stick",  "stone",   "tube",    "pint"};
 constexpr std::string_view pluralsWithEs[] = {"box", "bunch", "dash", "pouch"};
 
 struct Plural {
@@ -147,7 +148,8 @@ void putOut(Run& run, const IngredientRow& row, std::string_view mode) {
   const std::string item = global.gQuantityText + global.gWorkUnit + row[3];
   if (mode == modeScreen) run.frmDetail.lstIngredient.AddItem(Trim(item + behind));
   if (mode == modePrinter) printLine(run, Trim(item + behind));
-  if (mode == modeShoppingList && !Trim(global.gQuantityText).empty() && !isHeading(global, row)) printLine(run, Trim(item));
+  if (mode == modeShoppingList && !Trim(global.gQuantityText).empty() && !isHeading(global, row))
+    printLine(run, Trim(item));
 }
 
 void showRow(Run& run, IngredientRow& row, std::string_view mode, float factor) {

@@ -29,10 +29,22 @@ struct Factor {
 
 /// The way down. The UK pint has the factor of the US pint: it returns as 16.65 fluid ounces and not as a pint.
 constexpr Factor downFactors[] = {
-    {"UK pint", 473.17647, "mL"},  {"UK qrt", 1136.5225, "mL"}, {"UK gal", 4546.092, "mL"}, {"US pint", 473.17647, "mL"},
-    {"US qrt", 946.35295, "mL"},   {"US gal", 3785.4118, "mL"}, {"lb", 453592.37, "mg"},    {"stone", 6350293.18, "mg"},
-    {"ft", 304.8, "mm"},           {"yd", 914.4, "mm"},         {"cL", 10, "mL"},           {"L", 1000, "mL"},
-    {"cm", 10, "mm"},              {"m", 1000, "mm"},           {"cg", 10, "mg"},           {"g", 1000, "mg"},
+    {"UK pint", 473.17647, "mL"},
+    {"UK qrt", 1136.5225, "mL"},
+    {"UK gal", 4546.092, "mL"},
+    {"US pint", 473.17647, "mL"},
+    {"US qrt", 946.35295, "mL"},
+    {"US gal", 3785.4118, "mL"},
+    {"lb", 453592.37, "mg"},
+    {"stone", 6350293.18, "mg"},
+    {"ft", 304.8, "mm"},
+    {"yd", 914.4, "mm"},
+    {"cL", 10, "mL"},
+    {"L", 1000, "mL"},
+    {"cm", 10, "mm"},
+    {"m", 1000, "mm"},
+    {"cg", 10, "mg"},
+    {"g", 1000, "mg"},
     {"kg", 1000000, "mg"},
 };
 
@@ -45,12 +57,12 @@ struct SystemFactor {
 
 /// Across to the chosen system.
 constexpr SystemFactor systemFactors[] = {
-    {"m", "UK fl oz", 28.41306, "mL"},         {"m", "US fl oz", 29.57353, "mL"},
-    {"m", "oz", 28349.523125, "mg"},           {"m", "in", 25.4, "mm"},
-    {"i", "mL", 0.035195082, "UK fl oz"},      {"i", "US fl oz", 1.04084283, "UK fl oz"},
-    {"i", "mg", 0.0000352739619495804, "oz"},  {"i", "mm", 0.03937007, "in"},
-    {"u", "mL", 0.0338140222, "US fl oz"},     {"u", "UK fl oz", 0.96075984, "US fl oz"},
-    {"u", "mg", 0.0000352739619495804, "oz"},  {"u", "mm", 0.03937007, "in"},
+    {"m", "UK fl oz", 28.41306, "mL"},        {"m", "US fl oz", 29.57353, "mL"},
+    {"m", "oz", 28349.523125, "mg"},          {"m", "in", 25.4, "mm"},
+    {"i", "mL", 0.035195082, "UK fl oz"},     {"i", "US fl oz", 1.04084283, "UK fl oz"},
+    {"i", "mg", 0.0000352739619495804, "oz"}, {"i", "mm", 0.03937007, "in"},
+    {"u", "mL", 0.0338140222, "US fl oz"},    {"u", "UK fl oz", 0.96075984, "US fl oz"},
+    {"u", "mg", 0.0000352739619495804, "oz"}, {"u", "mm", 0.03937007, "in"},
 };
 
 /// A step up where the limit is also the divisor.
@@ -60,13 +72,23 @@ struct Climb {
   std::string_view next;
 };
 
-/// The imperial volumes' limits are the ratios of the program's own factors, so that an amount that meets one is at least 1 of the next.
+/// The imperial volumes' limits are the ratios of the program's own factors, so that an amount that meets one is at
+/// least 1 of the next.
 constexpr Climb climbs[] = {
-    {"UK fl oz", 19.99999, "UK pint"},        {"UK pint", 2.00000087987738, "UK qrt"}, {"UK qrt", 4.00000175975399, "UK gal"},
-    {"US fl oz", 15.9999996618598, "US pint"}, {"US pint", 2.00000002113377, "US qrt"}, {"US qrt", 4, "US gal"},
-    {"oz", 16, "lb"},                         {"lb", 14, "stone"},                     {"in", 12, "ft"},
-    {"ft", 3, "yd"},                          {"cL", 100, "L"},                        {"cm", 100, "m"},
-    {"cg", 100, "g"},                         {"g", 1000, "kg"},
+    {"UK fl oz", 19.99999, "UK pint"},
+    {"UK pint", 2.00000087987738, "UK qrt"},
+    {"UK qrt", 4.00000175975399, "UK gal"},
+    {"US fl oz", 15.9999996618598, "US pint"},
+    {"US pint", 2.00000002113377, "US qrt"},
+    {"US qrt", 4, "US gal"},
+    {"oz", 16, "lb"},
+    {"lb", 14, "stone"},
+    {"in", 12, "ft"},
+    {"ft", 3, "yd"},
+    {"cL", 100, "L"},
+    {"cm", 100, "m"},
+    {"cg", 100, "g"},
+    {"g", 1000, "kg"},
 };
 
 /// A step up whose centi level an option skips.
@@ -99,12 +121,14 @@ struct Division {
   std::string_view result;
 };
 
-/// What becomes of a kept amount in a centi unit when the centi levels are skipped. The last two go the wrong way for the arithmetic of
-/// the units, and that is how the program behaves: 0.5 cm becomes 0.05 mm.
+/// What becomes of a kept amount in a centi unit when the centi levels are skipped. The last two go the wrong way for
+/// the arithmetic of the units, and that is how the program behaves: 0.5 cm becomes 0.05 mm.
 constexpr Division centiDivisions[] = {{"cg", 100, "g"}, {"cm", 10, "mm"}, {"cL", 10, "mL"}};
 
 /// A Cup or Tablespoon that a rule needs. Error 94 when it was left empty.
-double neededNumber(const Value& value) { return value.number(); }
+double neededNumber(const Value& value) {
+  return value.number();
+}
 
 constexpr int overflow = 6;
 constexpr int divisionByZero = 11;
@@ -151,7 +175,8 @@ double cupFactor(std::string_view measurement) {
 }
 
 /// How much spoon measure one cup or spoon is; nothing for any other unit.
-std::optional<double> spoonFactor(std::string_view unit, const Value& cup, const Value& tablespoon, std::string_view measurement) {
+std::optional<double> spoonFactor(std::string_view unit, const Value& cup, const Value& tablespoon,
+                                  std::string_view measurement) {
   if (unit == "cup" || unit == "cups") return neededNumber(cup) * cupFactor(measurement);
   if (unit == "tbsp") return pgxPerTeaspoon * neededNumber(tablespoon);
   if (unit == "dsp") return pgxPerTeaspoon * neededNumber(tablespoon) / 2;
@@ -170,8 +195,8 @@ std::optional<Taken> climb(double amount, double limit, std::string_view next) {
   return Taken{divided(amount, limit), next};
 }
 
-/// A cup of tablespoons. One whole cup can miss its own limit by the last digit of a single; within a millionth it counts as met, and is
-/// then not below 1.
+/// A cup of tablespoons. One whole cup can miss its own limit by the last digit of a single; within a millionth it
+/// counts as met, and is then not below 1.
 std::optional<Taken> climbToCup(Run& run, double amount, std::string_view measurement) {
   const Recordset& system = run.GLOBAL.gSystem;
   auto cup = static_cast<float>(neededNumber(system.Field("Cup")));
@@ -229,7 +254,8 @@ void subConvertSystem(Run& run, std::string& unit, float& quantity) {
 }
 
 void subClimbLadder(Run& run, std::string& unit, float& quantity, std::string_view measurement) {
-  // The comparison is with the number that the single's text names: so 16.66667 tablespoons meet the limit of 250 / 15 for a cup.
+  // The comparison is with the number that the single's text names: so 16.66667 tablespoons meet the limit of 250 / 15
+  // for a cup.
   while (const std::optional<Taken> taken = nextStep(run, unit, Val(plainText(quantity)), measurement)) {
     quantity = static_cast<float>(taken->quotient);
     unit = taken->next;

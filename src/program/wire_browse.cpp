@@ -25,10 +25,10 @@ constexpr MenuCommand<FrmBrowse> menuCommands[] = {
 };
 
 constexpr ToolCommand<FrmBrowse> toolCommands[] = {
-    {"Options", &FrmBrowse::mnuOptions}, {"Clear", &FrmBrowse::mnuClear},       {"Filter", &FrmBrowse::mnuFilter},
-    {"Add", &FrmBrowse::mnuAdd},         {"Update", &FrmBrowse::mnuUpdate},     {"Delete", &FrmBrowse::mnuDelete},
-    {"Print", &FrmBrowse::mnuPrint},     {"First", &FrmBrowse::mnuFirst},       {"Previous", &FrmBrowse::mnuPrevious},
-    {"Next", &FrmBrowse::mnuNext},       {"Last", &FrmBrowse::mnuLast},         {"Settings", &FrmBrowse::mnuSettings},
+    {"Options", &FrmBrowse::mnuOptions}, {"Clear", &FrmBrowse::mnuClear},   {"Filter", &FrmBrowse::mnuFilter},
+    {"Add", &FrmBrowse::mnuAdd},         {"Update", &FrmBrowse::mnuUpdate}, {"Delete", &FrmBrowse::mnuDelete},
+    {"Print", &FrmBrowse::mnuPrint},     {"First", &FrmBrowse::mnuFirst},   {"Previous", &FrmBrowse::mnuPrevious},
+    {"Next", &FrmBrowse::mnuNext},       {"Last", &FrmBrowse::mnuLast},     {"Settings", &FrmBrowse::mnuSettings},
     {"Meal", &FrmBrowse::mnuMeal},       {"Exit", &FrmBrowse::mnuExit},
 };
 

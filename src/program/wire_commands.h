@@ -26,7 +26,8 @@ struct ToolCommand {
 /// Presses what the button stands for; nothing for a key that is in no row.
 template <class FormType>
 void pressToolButton(FormType& form, std::span<const ToolCommand<FormType>> commands, std::string_view key) {
-  const auto found = std::find_if(commands.begin(), commands.end(), [&](const auto& command) { return command.key == key; });
+  const auto found =
+      std::find_if(commands.begin(), commands.end(), [&](const auto& command) { return command.key == key; });
   if (found != commands.end()) (form.*found->entry).Click();
 }
 
@@ -39,6 +40,8 @@ void disableUnwiredButtons(FormType& form, ToolBar& toolBar, std::span<const Too
 }
 
 /// The printer set-up dialog with the platform's flags: set-up box, without page numbers, selection and print-to-file.
-inline void setUpPrinter(Run& run) { run.toolkit.setUpPrinter(0x1000CC); }
+inline void setUpPrinter(Run& run) {
+  run.toolkit.setUpPrinter(0x1000CC);
+}
 
 }  // namespace pantrigo

@@ -28,11 +28,11 @@ constexpr MenuCommand<FrmDetail> menuCommands[] = {
 };
 
 constexpr ToolCommand<FrmDetail> toolCommands[] = {
-    {"Clear", &FrmDetail::mnuClear},       {"Find", &FrmDetail::mnuFind},         {"Add", &FrmDetail::mnuAdd},
-    {"Update", &FrmDetail::mnuUpdate},     {"Delete", &FrmDetail::mnuDelete},     {"Print", &FrmDetail::mnuPrint},
-    {"First", &FrmDetail::mnuFirst},       {"Previous", &FrmDetail::mnuPrevious}, {"Next", &FrmDetail::mnuNext},
-    {"Last", &FrmDetail::mnuLast},         {"Settings", &FrmDetail::mnuSettings}, {"Nutrition", &FrmDetail::mnuNutrition},
-    {"Meal", &FrmDetail::mnuMeal},         {"Oven", &FrmDetail::mnuOven},         {"Exit", &FrmDetail::mnuExit},
+    {"Clear", &FrmDetail::mnuClear},   {"Find", &FrmDetail::mnuFind},         {"Add", &FrmDetail::mnuAdd},
+    {"Update", &FrmDetail::mnuUpdate}, {"Delete", &FrmDetail::mnuDelete},     {"Print", &FrmDetail::mnuPrint},
+    {"First", &FrmDetail::mnuFirst},   {"Previous", &FrmDetail::mnuPrevious}, {"Next", &FrmDetail::mnuNext},
+    {"Last", &FrmDetail::mnuLast},     {"Settings", &FrmDetail::mnuSettings}, {"Nutrition", &FrmDetail::mnuNutrition},
+    {"Meal", &FrmDetail::mnuMeal},     {"Oven", &FrmDetail::mnuOven},         {"Exit", &FrmDetail::mnuExit},
 };
 
 void tbDetail_ButtonClick(Run& run, const std::string& key) {

@@ -10,8 +10,8 @@ void wireFrmDetail(Run& run);
 void wireFrmAbout(Run& run);
 void wireFrmOven(Run& run);
 
-/// Greys the menu entries of a form that nothing is wired to, and makes what the wiring left the form's design. To be called after the
-/// wiring, before the form is loaded.
+/// Greys the menu entries of a form that nothing is wired to, and makes what the wiring left the form's design. To be
+/// called after the wiring, before the form is loaded.
 void finishWiring(Form& form);
 
 }  // namespace pantrigo

@@ -40,10 +40,18 @@ void Control::setBox(const Box& box) {
   changed(Aspect::Geometry);
 }
 
-void Control::setLeft(double left) { setBox({left, Top(), Width(), Height()}); }
-void Control::setTop(double top) { setBox({Left(), top, Width(), Height()}); }
-void Control::setWidth(double width) { setBox({Left(), Top(), width, Height()}); }
-void Control::setHeight(double height) { setBox({Left(), Top(), Width(), height}); }
+void Control::setLeft(double left) {
+  setBox({left, Top(), Width(), Height()});
+}
+void Control::setTop(double top) {
+  setBox({Left(), top, Width(), Height()});
+}
+void Control::setWidth(double width) {
+  setBox({Left(), Top(), width, Height()});
+}
+void Control::setHeight(double height) {
+  setBox({Left(), Top(), Width(), height});
+}
 
 void Control::scale(double factor) {
   setBox({Left() * factor, Top() * factor, Width() * factor, Height() * factor});
@@ -66,7 +74,11 @@ bool Control::reachable() const {
   return true;
 }
 
-void Control::reset() { common_ = design_; }
-void Control::sealDesign() { design_ = common_; }
+void Control::reset() {
+  common_ = design_;
+}
+void Control::sealDesign() {
+  design_ = common_;
+}
 
 }  // namespace pantrigo

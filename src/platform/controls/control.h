@@ -18,10 +18,39 @@ struct Box {
   double height = 0;
 };
 
-enum class ControlKind { TextBox, ComboBox, ListBox, Label, Frame, CheckBox, OptionButton, CommandButton, MenuEntry, ToolBar, Image };
+enum class ControlKind {
+  TextBox,
+  ComboBox,
+  ListBox,
+  Label,
+  Frame,
+  CheckBox,
+  OptionButton,
+  CommandButton,
+  MenuEntry,
+  ToolBar,
+  Image
+};
 
 /// What a listener is told has changed.
-enum class Aspect { Geometry, Visible, Enabled, Text, Caption, Value, Colour, Pointer, Rows, RowColours, Selection, Scroll, Buttons, Picture, Order, State };
+enum class Aspect {
+  Geometry,
+  Visible,
+  Enabled,
+  Text,
+  Caption,
+  Value,
+  Colour,
+  Pointer,
+  Rows,
+  RowColours,
+  Selection,
+  Scroll,
+  Buttons,
+  Picture,
+  Order,
+  State
+};
 
 /// Mouse pointers, by the platform's numbers.
 enum Pointer : int { pointerDefault = 0, pointerHourglass = 11, pointerCustom = 99 };
@@ -35,8 +64,8 @@ struct Holder {
   Control* container;
 };
 
-/// What all controls share. A control holds values, raises events and tells the view about changes; it knows twips and no
-/// pixels, and nothing of the cookbook. Making one enters it into its form, in tab order.
+/// What all controls share. A control holds values, raises events and tells the view about changes; it knows twips and
+/// no pixels, and nothing of the cookbook. Making one enters it into its form, in tab order.
 class Control {
  public:
   Control(Holder holder, ControlKind kind, std::string_view name, Box box);

@@ -5,8 +5,8 @@
 
 namespace pantrigo {
 
-/// An event of a control or a form. It has at most one handler, which the program wires; raising one without a handler does
-/// nothing. Raised by code it is a plain call: an error goes to the caller.
+/// An event of a control or a form. It has at most one handler, which the program wires; raising one without a handler
+/// does nothing. Raised by code it is a plain call: an error goes to the caller.
 template <class... Arguments>
 class Event {
  public:

@@ -9,15 +9,16 @@
 
 namespace pantrigo {
 
-/// The way of events into the program and of its waits out of it. A run is marked as ended by an error, by `End`, or by the
-/// closing of the main window; from then on every wait throws `RunEnded` from our own frame, so that no routine
+/// The way of events into the program and of its waits out of it. A run is marked as ended by an error, by `End`, or by
+/// the closing of the main window; from then on every wait throws `RunEnded` from our own frame, so that no routine
 /// goes on over a closed store.
 class EventLoop {
  public:
   explicit EventLoop(Toolkit& toolkit) : toolkit_(toolkit) {}
 
-  /// The one entry for events raised by a person or by the toolkit. Nothing that is thrown inside leaves it: a run-time error
-  /// shows its box and marks the run as ended. When the outermost call returns and the run has ended, `closing` has run.
+  /// The one entry for events raised by a person or by the toolkit. Nothing that is thrown inside leaves it: a run-time
+  /// error shows its box and marks the run as ended. When the outermost call returns and the run has ended, `closing`
+  /// has run.
   void dispatch(const std::function<void()>& event);
 
   /// What is done once, after the unwinding, when the run has ended: closing the store in order.

@@ -21,8 +21,8 @@ class FormListener {
   virtual void refresh() = 0;
 };
 
-/// A window: its controls in tab order, its own values, its events. Forms live as long as the run; unloading one lets its view
-/// go, and its values are those of the design again at the next load.
+/// A window: its controls in tab order, its own values, its events. Forms live as long as the run; unloading one lets
+/// its view go, and its values are those of the design again at the next load.
 class Form {
  public:
   Form(std::string_view name, std::string_view caption, double width, double height);

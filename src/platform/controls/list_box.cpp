@@ -33,7 +33,9 @@ void ListBox::setTopIndex(int row) {
   changed(Aspect::Scroll);
 }
 
-void ListBox::setSorted(int sorted) { sorted_ = sorted; }
+void ListBox::setSorted(int sorted) {
+  sorted_ = sorted;
+}
 
 bool ListBox::Selected(int row) const {
   if (!holds(row)) return false;

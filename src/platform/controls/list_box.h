@@ -19,9 +19,9 @@ struct RowColours {
 
 enum class Selection { Single, Multiple };
 
-/// A list of text rows. With single selection `ListIndex` is the selected row; setting it by code raises `Click` when it
-/// differs, and `SelChange` always. With multiple selection each row has its own mark, and marks set by code raise nothing. `Row` is a pointer for
-/// reading and colouring; it moves nothing and raises nothing.
+/// A list of text rows. With single selection `ListIndex` is the selected row; setting it by code raises `Click` when
+/// it differs, and `SelChange` always. With multiple selection each row has its own mark, and marks set by code raise
+/// nothing. `Row` is a pointer for reading and colouring; it moves nothing and raises nothing.
 class ListBox : public Control {
  public:
   ListBox(Holder holder, std::string_view name, Box box, Selection selection = Selection::Single);

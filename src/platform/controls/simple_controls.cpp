@@ -6,7 +6,8 @@
 
 namespace pantrigo {
 
-CaptionedControl::CaptionedControl(Holder holder, ControlKind kind, std::string_view name, std::string_view caption, Box box)
+CaptionedControl::CaptionedControl(Holder holder, ControlKind kind, std::string_view name, std::string_view caption,
+                                   Box box)
     : Control(holder, kind, name, box), caption_(caption) {}
 
 void CaptionedControl::setCaption(std::string_view caption) {
@@ -53,7 +54,8 @@ void OptionButton::setValue(bool value) {
   changed(Aspect::Value);
   if (!value) return;
   for (Control* control : form().controls()) {
-    if (control == this || control->kind() != ControlKind::OptionButton || control->container() != container()) continue;
+    if (control == this || control->kind() != ControlKind::OptionButton || control->container() != container())
+      continue;
     static_cast<OptionButton*>(control)->setValue(false);
   }
   Click();

@@ -13,7 +13,9 @@ ToolButton* ToolBar::find(std::string_view key) {
   return found == buttons_.end() ? nullptr : &*found;
 }
 
-const ToolButton* ToolBar::button(std::string_view key) const { return const_cast<ToolBar*>(this)->find(key); }
+const ToolButton* ToolBar::button(std::string_view key) const {
+  return const_cast<ToolBar*>(this)->find(key);
+}
 
 void ToolBar::setButtonEnabled(std::string_view key, bool enabled) {
   if (ToolButton* button = find(key)) button->enabled = enabled;

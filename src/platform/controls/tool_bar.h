@@ -38,7 +38,8 @@ class ToolBar : public Control {
   /// Shows or hides the spacer at that place (counted from 0).
   void setSpacerVisible(std::size_t place, bool visible);
 
-  /// Width of a button in twips of the platform's tool bar, and which of its two image lists it uses (0 small, 1 large).
+  /// Width of a button in twips of the platform's tool bar, and which of its two image lists it uses (0 small, 1
+  /// large).
   [[nodiscard]] double buttonWidth() const { return buttonWidth_; }
   [[nodiscard]] int imageList() const { return imageList_; }
   void setButtonSize(double width, int imageList);

@@ -111,9 +111,13 @@ void Windows::focusLost(Form& form) {
   }
 }
 
-bool Windows::blocked(const Form& form) const { return !modal_.empty() && modal_.back() != &form; }
+bool Windows::blocked(const Form& form) const {
+  return !modal_.empty() && modal_.back() != &form;
+}
 
-void Windows::userActivates(Form& form) { activate(form); }
+void Windows::userActivates(Form& form) {
+  activate(form);
+}
 
 void Windows::userFocuses(Control& control) {
   Form& form = control.form();

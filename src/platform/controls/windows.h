@@ -8,8 +8,8 @@
 namespace pantrigo {
 
 /// Keeps which forms are loaded and on show, which is active, and where the focus is. `Form_Activate` runs when the
-/// active form changes: by `Show`, by the hiding or unload of the active one, by a person's action on another modeless form. Message
-/// boxes, common dialogs and other programs change nothing.
+/// active form changes: by `Show`, by the hiding or unload of the active one, by a person's action on another modeless
+/// form. Message boxes, common dialogs and other programs change nothing.
 class Windows {
  public:
   explicit Windows(EventLoop& loop) : loop_(loop) {}

@@ -40,11 +40,12 @@ bool matches(std::u32string_view name, std::u32string_view mask) {
       return false;
     }
   }
-  return std::all_of(mask.begin() + static_cast<std::ptrdiff_t>(maskPlace), mask.end(), [](char32_t rest) { return rest == U'*'; });
+  return std::all_of(mask.begin() + static_cast<std::ptrdiff_t>(maskPlace), mask.end(),
+                     [](char32_t rest) { return rest == U'*'; });
 }
 
-/// The entry of the folder with that name without regard to case, the least by code where there are several; an empty path
-/// when there is none.
+/// The entry of the folder with that name without regard to case, the least by code where there are several; an empty
+/// path when there is none.
 fs::path entryWithoutCase(const fs::path& folder, const std::string& name) {
   const std::string sought = LCase(name);
   fs::path found;
@@ -129,7 +130,8 @@ std::vector<std::string> Files::matching(std::string_view mask) const {
 std::string Files::Dir(std::string_view mask) const {
   const fs::path path = current_ / withSlashes(mask);
   std::error_code failed;
-  if (mask.find_first_of("*?") == std::string_view::npos && fs::is_regular_file(path, failed)) return path.filename().string();
+  if (mask.find_first_of("*?") == std::string_view::npos && fs::is_regular_file(path, failed))
+    return path.filename().string();
   const std::vector<std::string> names = matching(mask);
   return names.empty() ? std::string() : names.front();
 }

@@ -9,8 +9,8 @@
 namespace pantrigo {
 
 /// The files that a run of the program sees. The run has a current folder of its own; the process's folder is never
-/// changed. Names are UTF-8, resolved against the current folder, and "\" separates folders as "/" does. A name is looked up
-/// without regard to case, the exact spelling first.
+/// changed. Names are UTF-8, resolved against the current folder, and "\" separates folders as "/" does. A name is
+/// looked up without regard to case, the exact spelling first.
 class Files {
  public:
   explicit Files(std::filesystem::path currentFolder);
@@ -26,12 +26,12 @@ class Files {
   /// The path a name stands for: that of the file found without regard to case, else the name as it is spelled.
   [[nodiscard]] std::filesystem::path resolve(std::string_view name) const;
 
-  /// `Dir`: the bare name of the first plain file that matches the mask ("*" and "?"), in the folder that the mask names;
-  /// empty when there is none or no such folder.
+  /// `Dir`: the bare name of the first plain file that matches the mask ("*" and "?"), in the folder that the mask
+  /// names; empty when there is none or no such folder.
   [[nodiscard]] std::string Dir(std::string_view mask) const;
 
-  /// All plain, not hidden files that match, sorted by name without regard to case. "*.*" takes every name; a mask without a
-  /// wildcard takes one file at most; an empty one takes none.
+  /// All plain, not hidden files that match, sorted by name without regard to case. "*.*" takes every name; a mask
+  /// without a wildcard takes one file at most; an empty one takes none.
   [[nodiscard]] std::vector<std::string> matching(std::string_view mask) const;
 
   /// `Kill`: removes all files that match. Error 53 when none does, 75 when one can't be removed.

@@ -11,8 +11,8 @@ class Printer {
   virtual ~Printer() = default;
   virtual void setFontSize(double points) = 0;
   virtual void setFontBold(bool bold) = 0;
-  /// Goes to print column n, counted from 1, in columns of the average character width of the present font; to column n of
-  /// the next line when the position is already beyond it.
+  /// Goes to print column n, counted from 1, in columns of the average character width of the present font; to column n
+  /// of the next line when the position is already beyond it.
   virtual void tab(int column) = 0;
   /// Prints n blanks.
   virtual void space(int count) = 0;

@@ -8,7 +8,8 @@ namespace pantrigo {
 inline constexpr int singleDigits = 7;
 inline constexpr int doubleDigits = 15;
 
-/// A number as its significant decimal digits, without trailing zeros ("0" for nought): digits[0] stands for 10^exponent.
+/// A number as its significant decimal digits, without trailing zeros ("0" for nought): digits[0] stands for
+/// 10^exponent.
 struct Decimal {
   bool negative = false;
   std::string digits = "0";

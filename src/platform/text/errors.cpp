@@ -60,8 +60,8 @@ constexpr ErrorText errorTexts[] = {
 }  // namespace
 
 std::string errorText(int number) {
-  const auto* found =
-      std::find_if(std::begin(errorTexts), std::end(errorTexts), [&](const ErrorText& row) { return row.number == number; });
+  const auto* found = std::find_if(std::begin(errorTexts), std::end(errorTexts),
+                                   [&](const ErrorText& row) { return row.number == number; });
   return found == std::end(errorTexts) ? "Application-defined error" : std::string(found->text);
 }
 

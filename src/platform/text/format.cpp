@@ -45,7 +45,8 @@ struct Parts {
 
 Parts split(const Decimal& number) {
   if (number.isZero()) return {};
-  if (number.exponent < 0) return {"", std::string(static_cast<std::size_t>(-number.exponent - 1), '0') + number.digits};
+  if (number.exponent < 0)
+    return {"", std::string(static_cast<std::size_t>(-number.exponent - 1), '0') + number.digits};
   const auto whole = static_cast<std::size_t>(number.exponent) + 1;
   if (number.digits.size() <= whole) return {number.digits + std::string(whole - number.digits.size(), '0'), ""};
   return {number.digits.substr(0, whole), number.digits.substr(whole)};
@@ -82,29 +83,39 @@ std::string formatDecimal(const Decimal& number, std::string_view patternText) {
   roundTo(parts, pattern.decimals);
   if (parts.whole.size() < pattern.wholeDigits) parts.whole.insert(0, pattern.wholeDigits - parts.whole.size(), '0');
   while (parts.fraction.size() > pattern.leastDecimals && parts.fraction.ends_with('0')) parts.fraction.pop_back();
-  if (parts.fraction.size() < pattern.leastDecimals) parts.fraction.append(pattern.leastDecimals - parts.fraction.size(), '0');
+  if (parts.fraction.size() < pattern.leastDecimals)
+    parts.fraction.append(pattern.leastDecimals - parts.fraction.size(), '0');
   std::string text = pattern.grouped ? grouped(parts.whole) : parts.whole;
   if (pattern.point) text += "." + parts.fraction;
   return number.negative ? "-" + text : text;
 }
 
-constexpr std::array<std::string_view, 12> monthNames{"Jan", "Feb", "Mar", "Apr", "May", "Jun", "Jul", "Aug", "Sep", "Oct", "Nov", "Dec"};
+constexpr std::array<std::string_view, 12> monthNames{"Jan", "Feb", "Mar", "Apr", "May", "Jun",
+                                                      "Jul", "Aug", "Sep", "Oct", "Nov", "Dec"};
 
 std::string dateText(const LocalTime& time) {
-  return plainText(static_cast<long>(time.day)) + "-" + std::string(monthNames.at(static_cast<std::size_t>(time.month - 1))) + "-" +
+  return plainText(static_cast<long>(time.day)) + "-" +
+         std::string(monthNames.at(static_cast<std::size_t>(time.month - 1))) + "-" +
          Format(static_cast<long>(time.year), "0000");
 }
 
 std::string timeOfDayText(const LocalTime& time) {
   const int hour = time.hour % 12 == 0 ? 12 : time.hour % 12;
-  return plainText(static_cast<long>(hour)) + ":" + Format(static_cast<long>(time.minute), "00") + (time.hour < 12 ? " AM" : " PM");
+  return plainText(static_cast<long>(hour)) + ":" + Format(static_cast<long>(time.minute), "00") +
+         (time.hour < 12 ? " AM" : " PM");
 }
 
 }  // namespace
 
-std::string Format(double value, std::string_view pattern) { return formatDecimal(toDecimal(value, doubleDigits), pattern); }
-std::string Format(float value, std::string_view pattern) { return formatDecimal(toDecimal(value, singleDigits), pattern); }
-std::string Format(long value, std::string_view pattern) { return Format(static_cast<double>(value), pattern); }
+std::string Format(double value, std::string_view pattern) {
+  return formatDecimal(toDecimal(value, doubleDigits), pattern);
+}
+std::string Format(float value, std::string_view pattern) {
+  return formatDecimal(toDecimal(value, singleDigits), pattern);
+}
+std::string Format(long value, std::string_view pattern) {
+  return Format(static_cast<double>(value), pattern);
+}
 
 std::string Format(std::string_view text, std::string_view pattern) {
   const std::optional<double> number = toNumber(text);

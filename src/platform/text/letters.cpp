@@ -39,8 +39,12 @@ char32_t foldCase(char32_t character) {
   return static_cast<char32_t>(u_foldCase(static_cast<UChar32>(character), U_FOLD_CASE_DEFAULT));
 }
 
-std::string UCase(std::string_view text) { return mapped(text, upperCase); }
-std::string LCase(std::string_view text) { return mapped(text, lowerCase); }
+std::string UCase(std::string_view text) {
+  return mapped(text, upperCase);
+}
+std::string LCase(std::string_view text) {
+  return mapped(text, lowerCase);
+}
 
 std::string LTrim(std::string_view text) {
   const std::size_t first = text.find_first_not_of(' ');
@@ -52,6 +56,8 @@ std::string RTrim(std::string_view text) {
   return last == std::string_view::npos ? std::string() : std::string(text.substr(0, last + 1));
 }
 
-std::string Trim(std::string_view text) { return LTrim(RTrim(text)); }
+std::string Trim(std::string_view text) {
+  return LTrim(RTrim(text));
+}
 
 }  // namespace pantrigo

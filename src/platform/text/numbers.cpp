@@ -13,8 +13,8 @@ namespace pantrigo {
 
 namespace {
 
-/// Digits that are taken from the binary value before the decimal rounding: enough to tell a half from its neighbours, so
-/// that rounding twice does no harm.
+/// Digits that are taken from the binary value before the decimal rounding: enough to tell a half from its neighbours,
+/// so that rounding twice does no harm.
 constexpr int exactDigits = 21;
 
 /// Keeps the first digits, halves away from zero, and drops trailing zeros.
@@ -40,8 +40,8 @@ Decimal toDecimal(double value, int significantDigits) {
   if (value == 0 || !std::isfinite(value)) return decimal;
   decimal.negative = value < 0;
   std::array<char, 64> buffer{};
-  const auto written = std::to_chars(buffer.data(), buffer.data() + buffer.size(), std::fabs(value), std::chars_format::scientific,
-                                     exactDigits - 1);
+  const auto written = std::to_chars(buffer.data(), buffer.data() + buffer.size(), std::fabs(value),
+                                     std::chars_format::scientific, exactDigits - 1);
   const std::string_view text(buffer.data(), static_cast<std::size_t>(written.ptr - buffer.data()));
   const std::size_t mark = text.find('e');
   decimal.digits = text.substr(0, 1);
@@ -54,7 +54,9 @@ Decimal toDecimal(double value, int significantDigits) {
 
 namespace {
 
-bool isDigit(char character) { return character >= '0' && character <= '9'; }
+bool isDigit(char character) {
+  return character >= '0' && character <= '9';
+}
 
 /// One digit, a point, the rest, and the exponent with its sign and at least two digits.
 std::string scientificText(const Decimal& number) {
@@ -78,7 +80,8 @@ std::string plainDigits(const Decimal& number, int significantDigits) {
   }
   const int whole = number.exponent + 1;
   if (digitCount <= whole) return number.digits + std::string(static_cast<std::size_t>(whole - digitCount), '0');
-  return number.digits.substr(0, static_cast<std::size_t>(whole)) + "." + number.digits.substr(static_cast<std::size_t>(whole));
+  return number.digits.substr(0, static_cast<std::size_t>(whole)) + "." +
+         number.digits.substr(static_cast<std::size_t>(whole));
 }
 
 std::string plain(double value, int significantDigits) {
@@ -94,8 +97,8 @@ std::string strForm(std::string text) {
   return (negative ? "-" : " ") + text;
 }
 
-/// Whether a number text that no double holds is too large, not too small: by the power of ten of its first digit that is
-/// not 0.
+/// Whether a number text that no double holds is too large, not too small: by the power of ten of its first digit that
+/// is not 0.
 bool isTooLarge(std::string_view text) {
   const std::size_t mark = text.find('e');
   const std::string_view mantissa = text.substr(0, mark);
@@ -142,7 +145,9 @@ std::optional<double> readBased(std::string_view text, bool wholeText) {
   return value <= 0xFFFF ? static_cast<std::int16_t>(value) : static_cast<std::int32_t>(value);
 }
 
-bool isExponentMark(char character) { return character == 'e' || character == 'E' || character == 'd' || character == 'D'; }
+bool isExponentMark(char character) {
+  return character == 'e' || character == 'E' || character == 'd' || character == 'D';
+}
 
 /// Reads digits, marks and an exponent of a text; keeps what a number is made of.
 class Scanner {
@@ -203,7 +208,9 @@ class Scanner {
 
 std::string_view withoutOuterWhiteSpace(std::string_view text) {
   constexpr std::string_view noBreakBlank = "\xC2\xA0";
-  const auto isWhite = [](char character) { return std::string_view(" \t\r\n").find(character) != std::string_view::npos; };
+  const auto isWhite = [](char character) {
+    return std::string_view(" \t\r\n").find(character) != std::string_view::npos;
+  };
   while (!text.empty()) {
     if (isWhite(text.front())) {
       text.remove_prefix(1);
@@ -302,7 +309,9 @@ std::optional<double> toNumber(std::string_view text) {
   return marks.negative ? -value : value;
 }
 
-bool IsNumeric(std::string_view text) { return toNumber(text).has_value(); }
+bool IsNumeric(std::string_view text) {
+  return toNumber(text).has_value();
+}
 
 bool isQueryNumber(std::string_view text) {
   const std::string trimmed = Trim(text);
@@ -333,11 +342,19 @@ std::string plainText(long value) {
   return {buffer.data(), written.ptr};
 }
 
-std::string Str(float value) { return strForm(plainText(value)); }
-std::string Str(double value) { return strForm(plainText(value)); }
+std::string Str(float value) {
+  return strForm(plainText(value));
+}
+std::string Str(double value) {
+  return strForm(plainText(value));
+}
 
-double shortest(float value) { return Val(plainText(value)); }
+double shortest(float value) {
+  return Val(plainText(value));
+}
 
-double Int(double value) { return std::floor(value); }
+double Int(double value) {
+  return std::floor(value);
+}
 
 }  // namespace pantrigo

@@ -23,8 +23,8 @@ namespace pantrigo {
 [[nodiscard]] std::string plainText(double value);
 [[nodiscard]] std::string plainText(long value);
 
-/// The number-to-text routine: as `plainText`, with one blank before a value of 0 or more, and without the zero in front
-/// of the point.
+/// The number-to-text routine: as `plainText`, with one blank before a value of 0 or more, and without the zero in
+/// front of the point.
 [[nodiscard]] std::string Str(float value);
 [[nodiscard]] std::string Str(double value);
 

@@ -16,14 +16,19 @@ bool isAscii(std::string_view text) {
   return std::all_of(text.begin(), text.end(), [](char byte) { return static_cast<unsigned char>(byte) < 0x80; });
 }
 
-bool isContinuation(unsigned char byte) { return (byte & 0xC0) == 0x80; }
+bool isContinuation(unsigned char byte) {
+  return (byte & 0xC0) == 0x80;
+}
 
 /// Number of bytes of the valid character at the place; 0 when there is none.
 std::size_t sequenceLength(std::string_view text, std::size_t place) {
   const auto byte = [&](std::size_t offset) { return static_cast<unsigned char>(text[place + offset]); };
   const unsigned char first = byte(0);
   if (first < 0x80) return 1;
-  const std::size_t length = first >= 0xC2 && first < 0xE0 ? 2 : first >= 0xE0 && first < 0xF0 ? 3 : first >= 0xF0 && first < 0xF5 ? 4 : 0;
+  const std::size_t length = first >= 0xC2 && first < 0xE0   ? 2
+                             : first >= 0xE0 && first < 0xF0 ? 3
+                             : first >= 0xF0 && first < 0xF5 ? 4
+                                                             : 0;
   if (length == 0 || place + length > text.size()) return 0;
   for (std::size_t offset = 1; offset < length; ++offset) {
     if (!isContinuation(byte(offset))) return 0;
@@ -35,7 +40,9 @@ std::size_t sequenceLength(std::string_view text, std::size_t place) {
 }
 
 /// Bytes taken by the character at the place, a stray byte counting as one.
-std::size_t stepLength(std::string_view text, std::size_t place) { return std::max<std::size_t>(1, sequenceLength(text, place)); }
+std::size_t stepLength(std::string_view text, std::size_t place) {
+  return std::max<std::size_t>(1, sequenceLength(text, place));
+}
 
 /// Byte offset of the character with that number, counted from 0; the end when there are fewer.
 std::size_t byteOffset(std::string_view text, std::size_t characters) {
@@ -71,9 +78,10 @@ void append(std::string& text, char32_t point) {
 }
 
 /// Windows-1252 from 0x80 to 0x9F; the five unassigned bytes stand for their C1 controls.
-constexpr std::array<char32_t, 32> windows1252High{
-    0x20AC, 0x81,   0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160, 0x2039, 0x0152, 0x8D, 0x017D, 0x8F,
-    0x90,   0x2018, 0x2019, 0x201C, 0x201D, 0x2022, 0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x9D, 0x017E, 0x0178};
+constexpr std::array<char32_t, 32> windows1252High{0x20AC, 0x81,   0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021,
+                                                   0x02C6, 0x2030, 0x0160, 0x2039, 0x0152, 0x8D,   0x017D, 0x8F,
+                                                   0x90,   0x2018, 0x2019, 0x201C, 0x201D, 0x2022, 0x2013, 0x2014,
+                                                   0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x9D,   0x017E, 0x0178};
 
 }  // namespace
 

@@ -16,7 +16,8 @@ TEST(ExchangeFormat, TagsStandInRisingOrderFromTitleToEnd) {
 }
 
 TEST(ExchangeFormat, OnlyCourseAndOtherAlsoTryThePlural) {
-  for (const ExchangeTag& tag : exchangeTags()) EXPECT_EQ(tag.alsoPlural, tag.tag == "02:" || tag.tag == "25:") << tag.tag;
+  for (const ExchangeTag& tag : exchangeTags())
+    EXPECT_EQ(tag.alsoPlural, tag.tag == "02:" || tag.tag == "25:") << tag.tag;
 }
 
 TEST(ExchangeFormat, AnUnknownTagIsNotFound) {

@@ -70,9 +70,10 @@ class ExchangeReaderTest : public ::testing::Test {
 };
 
 TEST_F(ExchangeReaderTest, AWholeRecipeComesIn) {
-  const ImportCounts counts = import({"00:APPLE pie", "01:British", "02:Desserts", "05:6", "06:30", "08:Aunt May", "09:False", "10:418.68",
-                                      "19:True", "20:False", "21:Good!~cold", "22:2~~apples~~2~~", "23:Mix.!~Bake.", "24:Vegetarian",
-                                      "25:Party", "99:End recipe"});
+  const ImportCounts counts =
+      import({"00:APPLE pie", "01:British", "02:Desserts", "05:6", "06:30", "08:Aunt May", "09:False", "10:418.68",
+              "19:True", "20:False", "21:Good!~cold", "22:2~~apples~~2~~", "23:Mix.!~Bake.", "24:Vegetarian",
+              "25:Party", "99:End recipe"});
   EXPECT_EQ(counts.read, 1);
   EXPECT_EQ(counts.added, 1);
   EXPECT_EQ(counts.warnings, 0);
@@ -87,7 +88,8 @@ TEST_F(ExchangeReaderTest, AWholeRecipeComesIn) {
   EXPECT_EQ(field("Apple Pie", "Ingredients").text(), "2~~apples~~2~~");
   EXPECT_EQ(field("Apple Pie", "Nationality").number(), 1);
   EXPECT_TRUE(field("Apple Pie", "CookTime").isNull());
-  EXPECT_EQ(categories_, (std::vector<std::string>{"Nationality:British", "Course:Desserts", "Health:Vegetarian", "Other:Party"}));
+  EXPECT_EQ(categories_,
+            (std::vector<std::string>{"Nationality:British", "Course:Desserts", "Health:Vegetarian", "Other:Party"}));
   EXPECT_EQ(rows("RecipeHealth"), 1);
   EXPECT_EQ(global_.gSystem.Field("RecipeId").number(), 1);
   EXPECT_EQ(global_.gSystem.Field("OtherId").number(), 1);
@@ -179,8 +181,8 @@ TEST_F(ExchangeReaderTest, AFieldOutsideARecipeFails) {
 
 TEST_F(ExchangeReaderTest, AStopStoresWhatWasRead) {
   int lines = 0;
-  const ImportCounts counts = import({"00:Apple Pie", "10:500", "22:2~~apples~~2~~", "99:End recipe"}, DuplicateTitles::CreateUnique,
-                                     [&] { return ++lines == 2; });
+  const ImportCounts counts = import({"00:Apple Pie", "10:500", "22:2~~apples~~2~~", "99:End recipe"},
+                                     DuplicateTitles::CreateUnique, [&] { return ++lines == 2; });
   EXPECT_EQ(counts.added, 1);
   EXPECT_EQ(field("Apple Pie", "Energy").number(), 500);
   EXPECT_TRUE(field("Apple Pie", "Ingredients").isNull());

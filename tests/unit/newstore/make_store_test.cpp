@@ -74,14 +74,16 @@ TEST_F(MakeStoreTest, TheUnitWordsFitTheirFieldAndTheirSystems) {
     EXPECT_TRUE(words.emplace(type, word).second) << word;
   }
   EXPECT_EQ(static_cast<long>(words.size()), result.unitWords);
-  for (const char* word : {"mL", "cL", "L", "mg", "cg", "g", "kg", "mm", "cm", "m"}) EXPECT_TRUE(words.contains({"m", word})) << word;
+  for (const char* word : {"mL", "cL", "L", "mg", "cg", "g", "kg", "mm", "cm", "m"})
+    EXPECT_TRUE(words.contains({"m", word})) << word;
   for (const char* word : {"UK fl oz", "UK pint", "UK qrt", "UK gal", "oz", "lb", "stone", "in", "ft", "yd"}) {
     EXPECT_TRUE(words.contains({"i", word})) << word;
   }
   for (const char* word : {"US fl oz", "US pint", "US qrt", "US gal", "oz", "lb", "in", "ft", "yd"}) {
     EXPECT_TRUE(words.contains({"u", word})) << word;
   }
-  for (const char* word : {"tsp", "dsp", "tbsp", "cup", "bag", "bunch", "clove", "pouch"}) EXPECT_TRUE(words.contains({"a", word})) << word;
+  for (const char* word : {"tsp", "dsp", "tbsp", "cup", "bag", "bunch", "clove", "pouch"})
+    EXPECT_TRUE(words.contains({"a", word})) << word;
   database.Close();
 }
 
