@@ -86,7 +86,9 @@ const ControlProperty ofOptions[] = {
 };
 
 const ControlProperty ofImages[] = {
-    {"Picture", [](const Control& c) -> Value { return c.Visible() ? baseName(as<Image>(c).Picture().name) : Value(""); }, {}},
+    {"Picture",
+     [](const Control& c) -> Value { return c.Visible() ? baseName(as<Image>(c).Picture().name) : Value(""); },
+     {}},
 };
 
 const FormProperty ofForms[] = {

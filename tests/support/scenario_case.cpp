@@ -200,7 +200,8 @@ std::string ScenarioCase::leftOver() const {
     if (!functions.empty()) return "expected " + name + " to be shown modally, but it was not, or not that often";
   }
   if (!answers_.empty())
-    return "expected all answers to be asked for, but " + plainText(static_cast<long>(answers_.size())) + " are left over";
+    return "expected all answers to be asked for, but " + plainText(static_cast<long>(answers_.size())) +
+           " are left over";
   if (checks_ == 0) return "expected at least one check, got none";
   return {};
 }
