@@ -34,8 +34,8 @@ void Binding::showPointer() {
       break;
     default:
       widget().unsetCursor();
-      show(Aspect::Pointer);
   }
+  show(Aspect::Pointer);
 }
 
 std::unique_ptr<Binding> makeBinding(Control& control, QWidget& parent, UserEvents& events) {

@@ -53,7 +53,7 @@ class FittingLabel : public QLabel {
     palette.setColor(QPalette::Active, QPalette::WindowText, clickable ? hue::accent : hue::text);
     palette.setColor(QPalette::Inactive, QPalette::WindowText, clickable ? hue::accent : hue::text);
     setPalette(palette);
-    if (clickable) setCursor(Qt::PointingHandCursor);
+    if (clickable && !testAttribute(Qt::WA_SetCursor)) setCursor(Qt::PointingHandCursor);
   }
 
  protected:

@@ -6,6 +6,7 @@
 #include <QToolButton>
 
 #include "desktop/desktop_test.h"
+#include "desktop/look.h"
 
 namespace pantrigo {
 
@@ -161,6 +162,9 @@ TEST_F(WindowsTest, AClickOnTheServesLabelSwitchesIt) {
   open(0);
   QTest::mouseClick(&widget<QWidget>(run().frmDetail.lblServes), Qt::LeftButton);
   EXPECT_EQ(run().frmDetail.lblServes.Caption(), "Makes");
+  const QWidget& label = widget<QWidget>(run().frmDetail.lblServes);
+  EXPECT_EQ(label.cursor().shape(), Qt::PointingHandCursor);
+  EXPECT_EQ(label.palette().color(QPalette::Active, QPalette::WindowText), hue::accent);
   EXPECT_TRUE(run().GLOBAL.gDetailChanged);
 }
 
