@@ -98,12 +98,11 @@ void RowList::mouseReleaseEvent(QMouseEvent* event) {
 void RowList::mouseDoubleClickEvent(QMouseEvent* event) {
   event->accept();
   if (event->button() != Qt::LeftButton) return;
-  const QModelIndex row = indexAt(event->position().toPoint());
-  if (!row.isValid()) return;
-  if (list().multiple()) {
+  // A double click on the empty space of a list counts too: it is the list's own event and not a row's.
+  if (!list().multiple()) {
+    actions_.doubleClicks();
+  } else if (const QModelIndex row = indexAt(event->position().toPoint()); row.isValid()) {
     actions_.toggles(row.row());
-  } else {
-    actions_.doubleClicks(row.row());
   }
 }
 

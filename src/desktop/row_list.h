@@ -13,7 +13,7 @@ struct ListActions {
   std::function<void(int row)> picks;
   std::function<void(int row)> movesTo;
   std::function<void(int row)> toggles;
-  std::function<void(int row)> doubleClicks;
+  std::function<void()> doubleClicks;
   std::function<void()> pressesBeside;
 };
 
