@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <array>
+#include <iterator>
 #include <memory>
 #include <numeric>
 
@@ -19,18 +20,58 @@ namespace pantrigo {
 namespace {
 
 /// Changes when a rule of ours around the collator does.
-constexpr std::string_view ownRulesVersion = "1";
+constexpr std::string_view ownRulesVersion = "2";
 
+/// The printable characters of ASCII.
 constexpr char firstPlain = ' ';
 constexpr char lastPlain = '~';
+
+/// A character that sorts as other ones do, and these.
+struct Fold {
+  char32_t from;
+  std::u32string_view to;
+};
+
+/// By code point. What a typesetter puts in the place of a plain character is equal to it, and so are letters that are
+/// two written as one.
+constexpr Fold folds[] = {
+    {U'\t', U" "},      {U'\u00A0', U" "},  {U'\u00AB', U"\""}, {U'\u00AD', U"-"},  {U'\u00B2', U"2"},
+    {U'\u00B3', U"3"},  {U'\u00B9', U"1"},  {U'\u00BB', U"\""}, {U'\u00C6', U"AE"}, {U'\u00DF', U"ss"},
+    {U'\u00E6', U"ae"}, {U'\u0152', U"OE"}, {U'\u0153', U"oe"}, {U'\u1E9E', U"SS"}, {U'\u2010', U"-"},
+    {U'\u2011', U"-"},  {U'\u2012', U"-"},  {U'\u2013', U"-"},  {U'\u2014', U"-"},  {U'\u2015', U"-"},
+    {U'\u2018', U"'"},  {U'\u2019', U"'"},  {U'\u201A', U"'"},  {U'\u201B', U"'"},  {U'\u201C', U"\""},
+    {U'\u201D', U"\""}, {U'\u201E', U"\""}, {U'\u201F', U"\""}, {U'\u2039', U"'"},  {U'\u203A', U"'"},
+};
+
+static_assert(std::ranges::is_sorted(folds, {}, &Fold::from));
+
+/// The text as the collator is to see it: folded, and without its trailing blanks.
+std::u32string folded(std::string_view text) {
+  std::u32string result;
+  for (const char32_t point : decodeUtf8(text)) {
+    const Fold* found = std::ranges::lower_bound(folds, point, {}, &Fold::from);
+    if (found != std::end(folds) && found->from == point) {
+      result += found->to;
+    } else {
+      result += point;
+    }
+  }
+  result.erase(result.find_last_not_of(U' ') + 1);
+  return result;
+}
+
+void check(UErrorCode status) {
+  if (U_FAILURE(status)) throw RuntimeError(51, "The order of texts is not available.");
+}
 
 std::unique_ptr<icu::Collator> makeCollator() {
   UErrorCode status = U_ZERO_ERROR;
   std::unique_ptr<icu::Collator> collator(icu::Collator::createInstance(icu::Locale::getRoot(), status));
-  if (U_FAILURE(status)) throw RuntimeError(51, "The order of texts is not available.");
+  check(status);
   // Accents count, letter case does not; blanks and punctuation are characters like any other.
   collator->setStrength(icu::Collator::SECONDARY);
   collator->setAttribute(UCOL_ALTERNATE_HANDLING, UCOL_NON_IGNORABLE, status);
+  check(status);
   return collator;
 }
 
@@ -41,8 +82,10 @@ const icu::Collator& collator() {
 
 int collateByRules(std::string_view left, std::string_view right) {
   UErrorCode status = U_ZERO_ERROR;
-  return collator().compareUTF8(icu::StringPiece(left.data(), static_cast<int32_t>(left.size())),
-                                icu::StringPiece(right.data(), static_cast<int32_t>(right.size())), status);
+  const int result = collator().compareUTF8(icu::StringPiece(left.data(), static_cast<int32_t>(left.size())),
+                                            icu::StringPiece(right.data(), static_cast<int32_t>(right.size())), status);
+  check(status);
+  return result;
 }
 
 /// The places of the plain characters in the collator's order; a small letter and its capital share one.
@@ -57,11 +100,18 @@ std::array<std::uint8_t, 128> plainRanks() {
     if (place > 0 && compare(order[place - 1], order[place]) != 0) ++rank;
     ranks[static_cast<std::size_t>(order[place])] = rank;
   }
+  ranks['\t'] = ranks[' '];
   return ranks;
 }
 
-/// Whether both texts hold plain characters only, up to the first difference of rank, which then decides.
+std::string_view withoutTrailingBlanks(std::string_view text) {
+  return text.substr(0, text.find_last_not_of(" \t") + 1);
+}
+
+/// Whether both texts hold plain characters and tabs only, from end to end; their order is then in `result`.
 bool collatePlain(std::string_view left, std::string_view right, int& result) {
+  left = withoutTrailingBlanks(left);
+  right = withoutTrailingBlanks(right);
   static const std::array<std::uint8_t, 128> ranks = plainRanks();
   const auto rankOf = [](char character) {
     const auto byte = static_cast<unsigned char>(character);
@@ -83,35 +133,34 @@ bool collatePlain(std::string_view left, std::string_view right, int& result) {
   return true;
 }
 
-std::string_view withoutTrailingBlanks(std::string_view text) {
-  const std::size_t last = text.find_last_not_of(' ');
-  return text.substr(0, last == std::string_view::npos ? 0 : last + 1);
+/// Whether the collator takes no notice of a character, as of controls, joiners and variation selectors, or can't tell
+/// it from others, as a byte that is no part of valid text.
+bool isPassedOver(char32_t point) {
+  if (u_charType(static_cast<UChar32>(point)) == U_SURROGATE) return true;
+  return collateByRules(encodeUtf8({&point, 1}), {}) == 0;
 }
 
-/// The control and format characters of a text with their places: what the collator passes over.
-std::u32string ignoredCharacters(std::string_view text) {
-  std::u32string ignored;
+/// The characters of a text that the collator passes over, each behind its place.
+std::u32string passedOver(std::u32string_view text) {
+  std::u32string result;
   char32_t place = 0;
-  for (const char32_t point : decodeUtf8(text)) {
+  for (const char32_t point : text) {
     ++place;
-    const auto type = u_charType(static_cast<UChar32>(point));
-    if (type == U_CONTROL_CHAR || type == U_FORMAT_CHAR || type == U_SURROGATE) {
-      ignored += place;
-      ignored += point;
-    }
+    if (point >= firstPlain && point <= lastPlain) continue;
+    if (isPassedOver(point)) result += {place, point};
   }
-  return ignored;
+  return result;
 }
 
 }  // namespace
 
 int collate(std::string_view left, std::string_view right) {
-  left = withoutTrailingBlanks(left);
-  right = withoutTrailingBlanks(right);
   int result = 0;
   if (collatePlain(left, right, result)) return result;
-  result = collateByRules(left, right);
-  return result != 0 ? result : ignoredCharacters(left).compare(ignoredCharacters(right));
+  const std::u32string leftFolded = folded(left);
+  const std::u32string rightFolded = folded(right);
+  result = collateByRules(encodeUtf8(leftFolded), encodeUtf8(rightFolded));
+  return result != 0 ? result : passedOver(leftFolded).compare(passedOver(rightFolded));
 }
 
 std::string collationVersion() {

@@ -6,7 +6,10 @@
 namespace pantrigo {
 
 /// The one order of texts: indexes, `Seek`, "=", `Distinct`, title order and the sorted lists all go by it. Letter case
-/// does not count, accents do, trailing blanks do not. Negative, zero or positive as `left` sorts before, with or after `right`.
+/// does not count, accents do, trailing blanks do not. Typographic quotes and dashes, tabs and no-break blanks are
+/// equal to the plain characters, ligatures and the sharp s to their two letters; characters that show nothing still
+/// keep texts apart. Negative, zero or positive as `left` sorts before, with or after `right`. Error 51 when the rules
+/// can't be loaded, which happens at the first use or never.
 [[nodiscard]] int collate(std::string_view left, std::string_view right);
 
 /// A text that changes whenever the order could: stamped into the store, whose indexes are rebuilt when it differs.

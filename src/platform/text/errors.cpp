@@ -17,6 +17,7 @@ struct ErrorText {
 constexpr ErrorText errorTexts[] = {
     {5, "Invalid procedure call or argument"},
     {6, "Overflow"},
+    {7, "Out of memory"},
     {11, "Division by zero"},
     {13, "Type mismatch"},
     {51, "Internal error"},

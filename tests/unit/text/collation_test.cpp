@@ -36,6 +36,50 @@ TEST(Collation, TakesTextsAsEqual) {
   for (const auto& [left, right] : pairs) expectOrder(left, right, 0);
 }
 
+TEST(Collation, TakesTypographicCharactersAsThePlainOnes) {
+  const std::pair<std::string, std::string> pairs[] = {
+      {"O\u2018B", "O'B"},
+      {"O\u2019B", "o'b"},
+      {"\u201Ax\u2018", "'x'"},
+      {"\u201Bx", "'x"},
+      {"\u2039x\u203A", "'x'"},
+      {"“x”", "\"x\""},
+      {"„x‟", "\"x\""},
+      {"«x»", "\"x\""},
+      {"a\u2010b", "a-b"},
+      {"a\u2011b", "a-b"},
+      {"a\u2012b", "a-b"},
+      {"a–b", "a-b"},
+      {"a—b", "a-b"},
+      {"a\u2015b", "a-b"},
+      {"a\u00ADb", "a-b"},
+      {"m¹ m² m³", "m1 m2 m3"},
+      {"Cæsar", "caesar"},
+      {"ŒUFS", "oeufs"},
+      {"Grieß", "griess"},
+      {"GRIEẞ", "griess"},
+      {"a\tb", "a b"},
+      {"a\u00A0b", "a b"},
+      {"soup\t \u00A0", "soup"},
+      {"soup\t", "soup"},
+      {"é\t", "é"},
+      {"\t\u00A0", ""},
+      {"Mère’s “Œuf”", "mère's \"oeuf\""},
+  };
+  for (const auto& [left, right] : pairs) expectOrder(left, right, 0);
+  expectOrder("\tx", "!x", -1);
+  expectOrder("Cæ", "Caé", -1);
+}
+
+TEST(Collation, KeepsTextsThatDifferInInvisibleCharactersApart) {
+  for (const char* invisible : {"\uFE0F", "\uFE00", "\U000E0100", "\u200B", "\u200D", "\u034F", "\u180B", "\u2060"}) {
+    expectOrder(std::string("☕") + invisible, "☕", 1);
+    expectOrder(std::string("a") + invisible + "b", "ab", 1);
+    expectOrder(std::string("a") + invisible + "b", "ac", -1);
+  }
+  expectOrder("☕\uFE0E", "☕\uFE0F", -1);
+}
+
 TEST(Collation, KeepsTheOrder) {
   const std::vector<std::string> rising = {
       "",      "1 pot", "10 pots",       "2 pots",        "apple",  "Apple pie", "apples",

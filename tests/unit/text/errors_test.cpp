@@ -13,6 +13,7 @@ TEST(Errors, HaveTheirTexts) {
   const std::pair<int, std::string> texts[] = {
       {5, "Invalid procedure call or argument"},
       {6, "Overflow"},
+      {7, "Out of memory"},
       {11, "Division by zero"},
       {13, "Type mismatch"},
       {52, "Bad file name or number"},
@@ -36,8 +37,8 @@ TEST(Errors, HaveTheirTexts) {
 
 TEST(Errors, EveryNumberThatIsRaisedHasATextOfItsOwn) {
   std::set<std::string> seen{errorText(0)};
-  for (const int number : {5,    6,    11,   13,   52,   53,   55,   61,   62,   68,   70,   71,   75,
-                           76,   91,   93,   94,   400,  438,  481,  3015, 3019, 3020, 3021, 3022, 3024,
+  for (const int number : {5,    6,    7,    11,   51,   13,   52,   53,   55,   61,   62,   68,   70,   71,
+                           75,   76,   91,   93,   94,   400,  438,  481,  3015, 3019, 3020, 3021, 3022, 3024,
                            3026, 3027, 3045, 3051, 3075, 3078, 3163, 3167, 3265, 3315, 3343, 3420, 3421}) {
     EXPECT_TRUE(seen.insert(errorText(number)).second) << number << ' ' << errorText(number);
   }
