@@ -96,20 +96,21 @@ std::string_view Statement::text(int column) const {
 }
 
 Connection::Connection(const std::string& fileName, int engineFlags, Access access) : access_(access) {
-  const int result = sqlite3_open_v2(fileName.c_str(), &handle_, engineFlags | SQLITE_OPEN_NOMUTEX, nullptr);
-  if (result != SQLITE_OK) {
-    sqlite3_close(handle_);
-    checkResult(result);
-  }
-  sqlite3_extended_result_codes(handle_, 1);
+  sqlite3* opened = nullptr;
+  const int result = sqlite3_open_v2(fileName.c_str(), &opened, engineFlags | SQLITE_OPEN_NOMUTEX, nullptr);
+  // The engine gives a handle to be closed also when it fails.
+  handle_.reset(opened);
+  checkResult(result);
+  sqlite3_extended_result_codes(opened, 1);
   // Plans never depend on the values bound, so a statement is prepared once.
-  sqlite3_db_config(handle_, SQLITE_DBCONFIG_ENABLE_QPSG, 1, nullptr);
-  registerSqlFunctions(handle_);
+  sqlite3_db_config(opened, SQLITE_DBCONFIG_ENABLE_QPSG, 1, nullptr);
+  registerSqlFunctions(opened);
 }
 
-Connection::~Connection() {
-  dropStatements();
-  sqlite3_close(handle_);
+Connection::~Connection() = default;
+
+void Connection::Closer::operator()(sqlite3* handle) const {
+  sqlite3_close(handle);
 }
 
 void Connection::dropStatements() {
@@ -128,16 +129,16 @@ Statement& Connection::queryStatement(const std::string& sql) {
 
 Statement& Connection::find(Statements& statements, const std::string& sql) {
   if (const auto known = statements.find(sql); known != statements.end()) return *known->second;
-  auto prepared = std::make_unique<Statement>(handle_, sql);
+  auto prepared = std::make_unique<Statement>(handle(), sql);
   return *statements.emplace(sql, std::move(prepared)).first->second;
 }
 
 void Connection::execute(const char* sql) {
-  checkResult(sqlite3_exec(handle_, sql, nullptr, nullptr, nullptr));
+  checkResult(sqlite3_exec(handle(), sql, nullptr, nullptr, nullptr));
 }
 
 std::string Connection::single(const char* sql) {
-  Statement statement(handle_, sql);
+  Statement statement(handle(), sql);
   return statement.step() ? std::string(statement.text(0)) : std::string();
 }
 
@@ -146,7 +147,7 @@ void Connection::requireWritable() const {
 }
 
 int Connection::changedRows() const {
-  return sqlite3_changes(handle_);
+  return sqlite3_changes(handle());
 }
 
 }  // namespace pantrigo

@@ -89,13 +89,17 @@ class Connection {
   [[nodiscard]] bool isReadOnly() const { return access_ == Access::ReadOnly; }
   /// Rows that the last statement changed.
   [[nodiscard]] int changedRows() const;
-  [[nodiscard]] sqlite3* handle() const { return handle_; }
+  [[nodiscard]] sqlite3* handle() const { return handle_.get(); }
 
  private:
+  struct Closer {
+    void operator()(sqlite3* handle) const;
+  };
   using Statements = std::unordered_map<std::string, std::unique_ptr<Statement>>;
   [[nodiscard]] Statement& find(Statements& statements, const std::string& sql);
 
-  sqlite3* handle_ = nullptr;
+  /// Comes first, so that it is closed when the statements are gone.
+  std::unique_ptr<sqlite3, Closer> handle_;
   Access access_;
   Statements statements_;
   Statements queryStatements_;

@@ -3,14 +3,14 @@
 #include <sqlite3.h>
 #include <unistd.h>
 
-#include <algorithm>
-#include <array>
-#include <set>
+#include <cerrno>
+#include <cstdio>
 #include <string>
 
-#include "platform/store/schema.h"
+#include "platform/store/store_checks.h"
 #include "platform/store/store_errors.h"
 #include "platform/store/store_file_content.h"
+#include "platform/store/unfinished_file.h"
 #include "platform/text/errors.h"
 
 namespace pantrigo {
@@ -18,15 +18,6 @@ namespace pantrigo {
 namespace {
 
 namespace fs = std::filesystem;
-
-/// The first bytes of every file of the engine, the trailing zero byte included.
-constexpr std::array<char, 16> signature{'S', 'Q', 'L', 'i', 't', 'e', ' ', 'f',
-                                         'o', 'r', 'm', 'a', 't', ' ', '3', '\0'};
-
-/// Place in the file's header where the way of writing is noted, and its mark for the write-ahead log. A file at rest
-/// only bears it after a crash.
-constexpr int writeVersionPlace = 18;
-constexpr char writeAheadMark = 2;
 
 fs::path folderOf(const fs::path& file) {
   return file.has_parent_path() ? file.parent_path() : fs::path(".");
@@ -45,41 +36,6 @@ void checkFileExists(const fs::path& file) {
   const fs::file_status status = fs::status(file, failure);
   if (status.type() == fs::file_type::not_found) throw RuntimeError(store_error::fileNotFound);
   if (failure || !fs::is_regular_file(status)) throw RuntimeError(store_error::cannotOpen);
-}
-
-/// The engine's own handle of the file: another one, once closed, would take the locks of this process on the file with
-/// it.
-sqlite3_file* fileOf(const Connection& connection) {
-  sqlite3_file* file = nullptr;
-  checkResult(sqlite3_file_control(connection.handle(), "main", SQLITE_FCNTL_FILE_POINTER, &file));
-  return file;
-}
-
-struct Header {
-  bool isWriteAhead;
-};
-
-Header checkSignature(const Connection& connection) {
-  sqlite3_file* file = fileOf(connection);
-  sqlite3_int64 size = 0;
-  checkResult(file->pMethods->xFileSize(file, &size));
-  std::array<char, writeVersionPlace + 1> header{};
-  if (size < static_cast<sqlite3_int64>(header.size())) throw RuntimeError(store_error::notADatabase);
-  checkResult(file->pMethods->xRead(file, header.data(), static_cast<int>(header.size()), 0));
-  if (!std::equal(signature.begin(), signature.end(), header.begin())) throw RuntimeError(store_error::notADatabase);
-  return {header[writeVersionPlace] == writeAheadMark};
-}
-
-void checkTables(Connection& connection) {
-  std::set<std::string, std::less<>> present;
-  Statement names(connection.handle(), "SELECT name FROM sqlite_schema WHERE type IN ('table', 'index')");
-  while (names.step()) present.emplace(names.text(0));
-  for (const TableDescription& table : storeTables()) {
-    if (!present.contains(table.name)) throw RuntimeError(store_error::noSuchTable);
-    for (const IndexDescription& index : table.indexes) {
-      if (!present.contains(index.name)) throw RuntimeError(store_error::noSuchIndex);
-    }
-  }
 }
 
 /// Keeps the engine from touching the file when the connection closes, until the file has shown to be a store.
@@ -104,38 +60,32 @@ std::string immutableName(const fs::path& file) {
 
 /// Error 3045 while another program has the file open.
 void checkNotInUse(const Connection& connection) {
-  sqlite3_file* file = fileOf(connection);
+  sqlite3_file* file = engineFileOf(connection);
   checkResult(file->pMethods->xLock(file, SQLITE_LOCK_SHARED));
   checkResult(file->pMethods->xUnlock(file, SQLITE_LOCK_NONE));
-}
-
-bool hasLog(const fs::path& file) {
-  std::error_code failure;
-  const auto size = fs::file_size(file.string() + "-wal", failure);
-  return !failure && size > 0;
 }
 
 std::unique_ptr<Connection> openReadOnly(const fs::path& file) {
   auto connection = std::make_unique<Connection>(file.string(), SQLITE_OPEN_READONLY, Access::ReadOnly);
   setCheckpointOnClose(*connection, false);
-  const Header header = checkSignature(*connection);
+  const StoreHeader header = checkHeader(*connection, file);
   if (header.isWriteAhead && !hasLog(file)) {
     // Reading under a log needs side files, but without one all there is stands in the file.
     checkNotInUse(*connection);
     connection =
         std::make_unique<Connection>(immutableName(file), SQLITE_OPEN_READONLY | SQLITE_OPEN_URI, Access::ReadOnly);
   }
-  checkTables(*connection);
+  checkContent(*connection);
   return connection;
 }
 
 std::unique_ptr<Connection> openReadWrite(const fs::path& file) {
   auto connection = std::make_unique<Connection>(file.string(), SQLITE_OPEN_READWRITE, Access::ReadWrite);
   setCheckpointOnClose(*connection, false);
-  static_cast<void>(checkSignature(*connection));
+  static_cast<void>(checkHeader(*connection, file));
   // A setting of the connection, not of the file; it has to come before a log that a crash left is read.
   connection->execute("PRAGMA locking_mode=EXCLUSIVE");
-  checkTables(*connection);
+  checkContent(*connection);
   if (connection->single("PRAGMA journal_mode=WAL") != "wal") throw RuntimeError(store_error::fileInUse);
   connection->execute(
       "PRAGMA synchronous=FULL;"
@@ -153,27 +103,35 @@ std::unique_ptr<Connection> openReadWrite(const fs::path& file) {
 /// Makes an empty file; fails when there is one already.
 void makeEmptyFile(const fs::path& file) {
   std::FILE* handle = std::fopen(file.c_str(), "wbx");
-  if (handle == nullptr) throw RuntimeError(store_error::pathFileAccess);
+  if (handle == nullptr) throw RuntimeError(errno == ENOSPC ? store_error::diskFull : store_error::pathFileAccess);
   std::fclose(handle);
+}
+
+std::unique_ptr<Connection> openForUse(const fs::path& file) {
+  return isWritable(file) && isWritable(folderOf(file)) ? openReadWrite(file) : openReadOnly(file);
 }
 
 }  // namespace
 
-std::unique_ptr<Connection> openStoreFile(const std::filesystem::path& file) {
+std::unique_ptr<Connection> openStoreFile(const fs::path& file) {
   checkFileExists(file);
-  return isWritable(file) && isWritable(folderOf(file)) ? openReadWrite(file) : openReadOnly(file);
+  try {
+    return openForUse(file);
+  } catch (const RuntimeError& error) {
+    // While the store is being opened, a file that fails and an engine that fails are the same to the user.
+    const bool isGeneral =
+        error.number() == store_error::pathFileAccess || error.number() == store_error::engineFailure;
+    if (isGeneral) throw RuntimeError(store_error::cannotOpen);
+    throw;
+  }
 }
 
-void createStoreFile(const std::filesystem::path& file) {
+void createStoreFile(const fs::path& file) {
   makeEmptyFile(file);
-  try {
-    Connection connection(file.string(), SQLITE_OPEN_READWRITE, Access::ReadWrite);
-    makeSchema(connection);
-  } catch (const RuntimeError&) {
-    std::error_code failure;
-    fs::remove(file, failure);
-    throw RuntimeError(store_error::pathFileAccess);
-  }
+  UnfinishedFile unfinished(file);
+  Connection connection(file.string(), SQLITE_OPEN_READWRITE, Access::ReadWrite);
+  makeSchema(connection);
+  unfinished.keep();
 }
 
 }  // namespace pantrigo

@@ -15,7 +15,7 @@ namespace {
 
 std::size_t fieldPlace(const TableDescription& table, std::string_view name) {
   const int place = findField(table, name);
-  if (place < 0) throw RuntimeError(store_error::noSuchField);
+  if (place < 0) raiseNamed(store_error::noSuchField, name);
   return static_cast<std::size_t>(place);
 }
 

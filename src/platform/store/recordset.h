@@ -37,11 +37,12 @@ class Recordset {
   explicit Recordset(std::shared_ptr<Cursor> cursor) : cursor_(std::move(cursor)) {}
 
   /// Selects a named index for `Seek` and the order of `MoveNext`; the position is undefined until the next `Seek`.
-  /// Error 3015 for an unknown name.
+  /// Drops a pending edit. Error 3015 for an unknown name.
   void Index(std::string_view name) { cursor().setIndex(name); }
 
   /// Positions on the first row in index order that satisfies the comparison ("=", ">" or ">="). One value a key field.
-  /// Error 3019 without an index, 5 for another comparison. Drops a pending edit.
+  /// Error 3019 without an index, 5 for another comparison, 3421 for a key that does not convert; after an error
+  /// nothing is found. An empty text equals no number. Drops a pending edit.
   void Seek(std::string_view comparison, std::initializer_list<Value> key) { cursor().seek(comparison, key); }
   void Seek(std::string_view comparison, const Value& key) { cursor().seek(comparison, {key}); }
 
@@ -64,12 +65,12 @@ class Recordset {
   /// range.
   void Set(std::string_view name, const Value& value) { cursor().setField(name, value); }
 
-  /// Starts a new row; the current row stays current after `Update`.
+  /// Starts a new row; the current row stays current after `Update`. Drops a pending edit.
   void AddNew() { cursor().addNew(); }
-  /// Starts a change of the current row. Error 3021 without one.
+  /// Starts a change of the current row. Drops a pending edit. Errors: 3021 without a row, 3167 on a deleted one.
   void Edit() { cursor().edit(); }
   /// Writes the new or changed row; durable when it returns. Errors: 3020, 3022 for a duplicate key, 3026 disk full,
-  /// 3027.
+  /// 3027, 75 when the file can't be written.
   void Update() { cursor().update(); }
   /// Removes the current row, which stays current but dead until the next move.
   void Delete() { cursor().remove(); }
@@ -77,7 +78,8 @@ class Recordset {
   /// Rows reached so far: 0 for an empty result, at least 1 otherwise.
   [[nodiscard]] long RecordCount() const { return cursor().recordCount(); }
 
-  /// Closes the cursor; a pending edit is dropped. Error 3420 when it is not open.
+  /// Lets go of the cursor, which is closed, and drops a pending edit, once no copy of this object holds it any more.
+  /// Error 3420 when it is not open.
   void Close();
 
   [[nodiscard]] bool isOpen() const { return cursor_ != nullptr; }

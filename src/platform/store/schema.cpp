@@ -42,41 +42,25 @@ constexpr IndexDescription recipeIndexes[] = {
     {"RecipeIdxMeal", {"Meal", ""}, duplicates, ""},
 };
 
-constexpr FieldDescription nationalityFields[] = {{"NationalityId", LongInteger}, {"Description", Text}};
-constexpr IndexDescription nationalityIndexes[] = {
-    {"NationalityIdxDescription", {"Description", ""}, duplicates, "NationalityId"},
-    {"NationalityIdxNationalityId", {"NationalityId", ""}, unique, ""},
+/// What the six category tables have in common: an id and a description, and an index on each. The category lists read
+/// both fields from the index of the descriptions.
+struct CategoryTable {
+  FieldDescription fields[2];
+  IndexDescription indexes[2];
 };
 
-constexpr FieldDescription courseFields[] = {{"CourseId", LongInteger}, {"Description", Text}};
-constexpr IndexDescription courseIndexes[] = {
-    {"CourseIdxDescription", {"Description", ""}, duplicates, "CourseId"},
-    {"CourseIdxCourseId", {"CourseId", ""}, unique, ""},
-};
+constexpr CategoryTable categoryTable(std::string_view idField, std::string_view byDescription, std::string_view byId) {
+  return {{{idField, LongInteger}, {"Description", Text}},
+          {{byDescription, {"Description", ""}, duplicates, idField}, {byId, {idField, ""}, unique, ""}}};
+}
 
-constexpr FieldDescription cookingFields[] = {{"CookingId", LongInteger}, {"Description", Text}};
-constexpr IndexDescription cookingIndexes[] = {
-    {"CookingIdxDescription", {"Description", ""}, duplicates, "CookingId"},
-    {"CookingIdxCookingId", {"CookingId", ""}, unique, ""},
-};
-
-constexpr FieldDescription easeFields[] = {{"EaseId", LongInteger}, {"Description", Text}};
-constexpr IndexDescription easeIndexes[] = {
-    {"EaseIdxDescription", {"Description", ""}, duplicates, "EaseId"},
-    {"EaseIdxEaseId", {"EaseId", ""}, unique, ""},
-};
-
-constexpr FieldDescription healthFields[] = {{"HealthId", LongInteger}, {"Description", Text}};
-constexpr IndexDescription healthIndexes[] = {
-    {"HealthIdxDescription", {"Description", ""}, duplicates, "HealthId"},
-    {"HealthIdxHealthId", {"HealthId", ""}, unique, ""},
-};
-
-constexpr FieldDescription otherFields[] = {{"OtherId", LongInteger}, {"Description", Text}};
-constexpr IndexDescription otherIndexes[] = {
-    {"OtherIdxDescription", {"Description", ""}, duplicates, "OtherId"},
-    {"OtherIdxOtherId", {"OtherId", ""}, unique, ""},
-};
+constexpr CategoryTable nationality =
+    categoryTable("NationalityId", "NationalityIdxDescription", "NationalityIdxNationalityId");
+constexpr CategoryTable course = categoryTable("CourseId", "CourseIdxDescription", "CourseIdxCourseId");
+constexpr CategoryTable cooking = categoryTable("CookingId", "CookingIdxDescription", "CookingIdxCookingId");
+constexpr CategoryTable ease = categoryTable("EaseId", "EaseIdxDescription", "EaseIdxEaseId");
+constexpr CategoryTable health = categoryTable("HealthId", "HealthIdxDescription", "HealthIdxHealthId");
+constexpr CategoryTable other = categoryTable("OtherId", "OtherIdxDescription", "OtherIdxOtherId");
 
 constexpr FieldDescription recipeHealthFields[] = {{"RecipeId", LongInteger}, {"HealthId", LongInteger}};
 constexpr IndexDescription recipeHealthIndexes[] = {
@@ -106,12 +90,12 @@ constexpr FieldDescription systemFields[] = {
 
 constexpr TableDescription tables[] = {
     {"Recipe", recipeFields, recipeIndexes},
-    {"Nationality", nationalityFields, nationalityIndexes},
-    {"Course", courseFields, courseIndexes},
-    {"Cooking", cookingFields, cookingIndexes},
-    {"Ease", easeFields, easeIndexes},
-    {"Health", healthFields, healthIndexes},
-    {"Other", otherFields, otherIndexes},
+    {"Nationality", nationality.fields, nationality.indexes},
+    {"Course", course.fields, course.indexes},
+    {"Cooking", cooking.fields, cooking.indexes},
+    {"Ease", ease.fields, ease.indexes},
+    {"Health", health.fields, health.indexes},
+    {"Other", other.fields, other.indexes},
     {"RecipeHealth", recipeHealthFields, recipeHealthIndexes},
     {"RecipeOther", recipeOtherFields, recipeOtherIndexes},
     {"Unit", unitFields, unitIndexes},

@@ -12,7 +12,7 @@ inline constexpr const char* collationName = "PANTRIGO";
 inline constexpr const char* matchesFunctionName = "matches_pattern";
 inline constexpr const char* likePatternKind = "pantrigo like pattern";
 
-/// Gives a connection the collation and the function.
+/// Gives a connection the collation and the function. Error 51 when the order of texts is not available.
 void registerSqlFunctions(sqlite3* connection);
 
 }  // namespace pantrigo

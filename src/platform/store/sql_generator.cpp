@@ -15,7 +15,7 @@ namespace {
 
 const TableDescription& requireTable(std::string_view name) {
   const TableDescription* table = findTable(name);
-  if (table == nullptr) throw RuntimeError(store_error::noSuchTable);
+  if (table == nullptr) raiseNamed(store_error::noSuchTable, name);
   return *table;
 }
 

@@ -45,7 +45,8 @@ class Lexer {
     while (isBlank(at())) ++place_;
     if (isAtEnd()) return {SqlToken::Kind::End, {}};
     if (isLetter(at())) return word();
-    if (isDigit(at()) || (at() == '.' && isDigit(at(1)) && !followsName_)) return number();
+    // No field's name begins with a digit, so a point before one begins a number.
+    if (isDigit(at()) || (at() == '.' && isDigit(at(1)))) return number();
     if (at() == '\'') return text();
     return symbol();
   }
@@ -53,7 +54,6 @@ class Lexer {
   SqlToken word() {
     const std::size_t start = place_;
     while (isLetter(at()) || isDigit(at())) ++place_;
-    followsName_ = true;
     return {SqlToken::Kind::Word, std::string(sql_.substr(start, place_ - start))};
   }
 
@@ -62,7 +62,6 @@ class Lexer {
   }
 
   SqlToken number() {
-    followsName_ = false;
     const std::size_t start = place_;
     skipDigits();
     if (at() == '.') {
@@ -88,7 +87,6 @@ class Lexer {
   }
 
   SqlToken text() {
-    followsName_ = false;
     SqlToken token{SqlToken::Kind::Text, {}};
     for (++place_; !isAtEnd(); ++place_) {
       if (at() != '\'') {
@@ -105,7 +103,6 @@ class Lexer {
   }
 
   SqlToken symbol() {
-    followsName_ = false;
     for (const std::string_view pair : {"<=", ">=", "<>"}) {
       if (sql_.substr(place_, pair.size()) == pair) return symbolToken(pair);
     }
@@ -122,8 +119,6 @@ class Lexer {
 
   std::string_view sql_;
   std::size_t place_ = 0;
-  /// Whether the last token was a name: a point behind it parts table and field, and begins no number.
-  bool followsName_ = false;
 };
 
 }  // namespace

@@ -1,6 +1,6 @@
 #pragma once
 
-struct sqlite3;
+#include <string_view>
 
 namespace pantrigo {
 
@@ -8,6 +8,8 @@ namespace pantrigo {
 namespace store_error {
 inline constexpr int invalidCall = 5;
 inline constexpr int overflow = 6;
+inline constexpr int outOfMemory = 7;
+inline constexpr int engineFailure = 51;
 inline constexpr int pathFileAccess = 75;
 inline constexpr int invalidPattern = 93;
 inline constexpr int noSuchIndex = 3015;
@@ -30,8 +32,11 @@ inline constexpr int objectClosed = 3420;
 inline constexpr int dataTypeConversion = 3421;
 }  // namespace store_error
 
-/// The error number that a result code of the engine stands for.
+/// The error number that a result code of the engine stands for: 51 for what no other number names.
 [[nodiscard]] int errorNumberOf(int engineResult);
+
+/// Raises a run-time error whose text ends with the name of the table, field or index that it is about.
+[[noreturn]] void raiseNamed(int number, std::string_view name);
 
 /// Raises the run-time error of an engine's result code, unless the code tells of success.
 void checkResult(int engineResult);

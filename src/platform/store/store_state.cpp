@@ -30,7 +30,7 @@ TableAccess& Database::State::access(const TableDescription& table) const {
 
 TableAccess& Database::State::access(std::string_view table) const {
   const TableDescription* description = findTable(table);
-  if (description == nullptr) throw RuntimeError(store_error::noSuchTable);
+  if (description == nullptr) raiseNamed(store_error::noSuchTable, table);
   return access(*description);
 }
 
@@ -38,12 +38,13 @@ void Database::State::setDurability(Durability durability) {
   if (durability == durability_ || connection().isReadOnly()) return;
   if (durability == Durability::AtCheckpoint) {
     connection().execute("PRAGMA synchronous=NORMAL");
-  } else {
-    connection().execute("PRAGMA synchronous=FULL");
-    checkResult(
-        sqlite3_wal_checkpoint_v2(connection().handle(), nullptr, SQLITE_CHECKPOINT_TRUNCATE, nullptr, nullptr));
+    durability_ = durability;
+    return;
   }
+  connection().execute("PRAGMA synchronous=FULL");
+  // From here on each update is durable, whatever becomes of the checkpoint.
   durability_ = durability;
+  checkResult(sqlite3_wal_checkpoint_v2(connection().handle(), nullptr, SQLITE_CHECKPOINT_TRUNCATE, nullptr, nullptr));
 }
 
 void Database::State::close() {
@@ -53,7 +54,7 @@ void Database::State::close() {
   if (closing->isReadOnly()) return;
   closing->dropStatements();
   // Moves what is in the log into the file, so that the file at rest stands alone.
-  if (closing->single("PRAGMA journal_mode=DELETE") != "delete") throw RuntimeError(store_error::cannotOpen);
+  if (closing->single("PRAGMA journal_mode=DELETE") != "delete") throw RuntimeError(store_error::pathFileAccess);
 }
 
 Database::State& StoreAccess::state(const Database& database) {

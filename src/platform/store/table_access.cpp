@@ -25,7 +25,7 @@ WalkOrder& TableAccess::order(std::string_view indexName) {
   const auto found = std::find_if(orders_.begin() + 1, orders_.end(), [indexName](const auto& order) {
     return isSameName(order->index()->name, indexName);
   });
-  if (found == orders_.end()) throw RuntimeError(store_error::noSuchIndex);
+  if (found == orders_.end()) raiseNamed(store_error::noSuchIndex, indexName);
   return **found;
 }
 

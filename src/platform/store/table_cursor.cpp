@@ -26,12 +26,13 @@ TableCursor::TableCursor(std::shared_ptr<Database::State> state, const TableDesc
 
 int TableCursor::fieldPlace(std::string_view name) const {
   const int place = findField(table_, name);
-  if (place < 0) throw RuntimeError(store_error::noSuchField);
+  if (place < 0) raiseNamed(store_error::noSuchField, name);
   return place;
 }
 
 void TableCursor::setIndex(std::string_view name) {
   order_ = &access().order(name);
+  pending_.reset();
   place_ = Place::None;
 }
 
@@ -44,17 +45,29 @@ Key TableCursor::seekKey(const std::vector<Value>& key) const {
   return result;
 }
 
+/// An empty text is no number, and not even Null is equal to it.
+bool TableCursor::canBeEqual(const std::vector<Value>& key) const {
+  for (std::size_t number = 0; number < key.size(); ++number) {
+    const FieldType type = order_->keyType(static_cast<int>(number));
+    const bool isNumber = type == FieldType::LongInteger || type == FieldType::Number;
+    if (isNumber && key[number].isText() && key[number].text().empty()) return false;
+  }
+  return true;
+}
+
 void TableCursor::seek(std::string_view comparison, const std::vector<Value>& key) {
   TableAccess& table = access();
+  // What fails from here on has found nothing.
+  pending_.reset();
+  place_ = Place::None;
+  noMatch_ = true;
+  entries_.clear();
   if (order_->index() == nullptr) throw RuntimeError(store_error::noCurrentIndex);
   const bool takesEqual = comparison == "=" || comparison == ">=";
   const bool takesAbove = comparison == ">" || comparison == ">=";
   if (!takesEqual && !takesAbove) throw RuntimeError(store_error::invalidCall);
   const Key sought = seekKey(key);
-  pending_.reset();
-  place_ = Place::None;
-  entries_.clear();
-  if (takesEqual) order_->readEqual(sought, 1, entries_);
+  if (takesEqual && canBeEqual(key)) order_->readEqual(sought, 1, entries_);
   if (takesAbove && entries_.empty()) order_->readAbove(sought, 1, entries_);
   standOnFirstEntry(table);
   noMatch_ = place_ == Place::None;

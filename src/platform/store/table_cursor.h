@@ -53,6 +53,7 @@ class TableCursor final : public Cursor {
   [[nodiscard]] const Entry& current() const { return entries_[at_]; }
   [[nodiscard]] const Value& currentField(TableAccess& access, int field);
   [[nodiscard]] Key seekKey(const std::vector<Value>& key) const;
+  [[nodiscard]] bool canBeEqual(const std::vector<Value>& key) const;
   void requireRow() const;
   void requirePending() const;
   void standOnFirstEntry(const TableAccess& access);

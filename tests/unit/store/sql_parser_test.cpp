@@ -41,6 +41,15 @@ TEST(SqlLexerTest, ReadsNumbers) {
   }
 }
 
+TEST(SqlLexerTest, TakesAPointBeforeADigitAsANumberBehindAWord) {
+  const std::vector<SqlToken> tokens = lexSql("WHERE .5 < Recipe.Fat AND .25");
+  ASSERT_EQ(tokens.size(), 9U);
+  EXPECT_EQ(tokens[1].number, .5);
+  EXPECT_EQ(tokens[4].text, ".");
+  EXPECT_EQ(tokens[7].kind, SqlToken::Kind::Number);
+  EXPECT_EQ(tokens[7].number, .25);
+}
+
 TEST(SqlLexerTest, RefusesWhatTheLanguageDoesNotHave) {
   for (const char* sql :
        {"'open", "''' ", "a;b", "a \"b\"", "[Title]", "a % b", "1e999", "\xC3\xA9", "a\\b", "$5", "&H1F"}) {

@@ -10,6 +10,18 @@ namespace pantrigo {
 
 namespace fs = std::filesystem;
 
+FileSizeLimit::FileSizeLimit(std::uintmax_t bytes) : handlerBefore_(std::signal(SIGXFSZ, SIG_IGN)) {
+  getrlimit(RLIMIT_FSIZE, &before_);
+  rlimit limit = before_;
+  limit.rlim_cur = bytes;
+  setrlimit(RLIMIT_FSIZE, &limit);
+}
+
+FileSizeLimit::~FileSizeLimit() {
+  setrlimit(RLIMIT_FSIZE, &before_);
+  std::signal(SIGXFSZ, handlerBefore_);
+}
+
 FolderTest::FolderTest() {
   std::string name = (fs::temp_directory_path() / "store-test-XXXXXX").string();
   folder_ = mkdtemp(name.data());

@@ -2,6 +2,10 @@
 
 #include <gtest/gtest.h>
 
+#include <sys/resource.h>
+
+#include <csignal>
+#include <cstdint>
 #include <filesystem>
 #include <string>
 #include <vector>
@@ -22,6 +26,30 @@ int errorOf(Statement&& statement) {
     return error.number();
   }
 }
+
+/// The text of the run-time error that a statement raises; empty when it runs to its end.
+template <class Statement>
+std::string errorTextOf(Statement&& statement) {
+  try {
+    statement();
+    return {};
+  } catch (const RuntimeError& error) {
+    return error.text();
+  }
+}
+
+/// Makes every write fail that would bring a file beyond so many bytes, until the scope ends.
+class FileSizeLimit {
+ public:
+  explicit FileSizeLimit(std::uintmax_t bytes);
+  ~FileSizeLimit();
+  FileSizeLimit(const FileSizeLimit&) = delete;
+  FileSizeLimit& operator=(const FileSizeLimit&) = delete;
+
+ private:
+  rlimit before_{};
+  sighandler_t handlerBefore_;
+};
 
 /// A folder of its own for each test.
 class FolderTest : public testing::Test {

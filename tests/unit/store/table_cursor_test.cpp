@@ -164,6 +164,76 @@ TEST_F(TableCursorTest, EqualKeysComeInTheOrderOfStoring) {
   EXPECT_EQ(rest(cursor, "RecipeId"), expected);
 }
 
+TEST_F(TableCursorTest, SeekThatFailsFindsNothing) {
+  addRawRow(database, "Recipe", {{"RecipeId", 1}, {"Title", "Pie"}, {"Nationality", 2}});
+  Recordset cursor = database.OpenRecordset("Recipe");
+  const auto expectNothing = [&cursor](int error, const std::function<void()>& seek) {
+    EXPECT_EQ(errorOf(seek), error);
+    EXPECT_TRUE(cursor.NoMatch());
+    EXPECT_TRUE(cursor.Eof());
+    EXPECT_EQ(errorOf([&] { static_cast<void>(cursor.Field("Title")); }), 3021);
+  };
+  expectNothing(3019, [&] { cursor.Seek("=", 2); });
+  cursor.Index("RecipeIdxNationality");
+  const auto find = [&] {
+    cursor.Seek("=", 2);
+    ASSERT_FALSE(cursor.NoMatch());
+    cursor.Edit();
+  };
+  find();
+  expectNothing(3421, [&] { cursor.Seek("=", "Italian"); });
+  EXPECT_EQ(errorOf([&] { cursor.Update(); }), 3020);
+  find();
+  expectNothing(5, [&] { cursor.Seek("<", 2); });
+  find();
+  expectNothing(5, [&] { cursor.Seek("=", {2, 2}); });
+}
+
+TEST_F(TableCursorTest, EmptyTextEqualsNoNumber) {
+  addRecipe(1, "No nationality");
+  addRawRow(database, "Recipe", {{"RecipeId", 2}, {"Title", "Pie"}, {"Nationality", 0}});
+  Recordset cursor = database.OpenRecordset("Recipe");
+  cursor.Index("RecipeIdxNationality");
+  cursor.Seek("=", "");
+  EXPECT_TRUE(cursor.NoMatch());
+  cursor.Seek("=", Value());
+  EXPECT_EQ(cursor.Field("RecipeId"), Value(1));
+  cursor.Seek("=", "0");
+  EXPECT_EQ(cursor.Field("RecipeId"), Value(2));
+}
+
+TEST_F(TableCursorTest, IndexDropsAPendingEdit) {
+  addThree();
+  Recordset cursor = titles();
+  cursor.Seek("=", "Beta");
+  cursor.Edit();
+  cursor.Set("Title", "Changed");
+  cursor.Index("RecipeIdxRecipeId");
+  EXPECT_EQ(errorOf([&] { cursor.Update(); }), 3020);
+  cursor.AddNew();
+  cursor.Index("RecipeIdxTitle");
+  EXPECT_EQ(errorOf([&] { cursor.Update(); }), 3020);
+  EXPECT_EQ(titlesAbove(""), (Texts{"Alpha", "Beta", "Gamma"}));
+}
+
+TEST_F(TableCursorTest, ErrorsNameWhatIsMissing) {
+  Recordset cursor = database.OpenRecordset("Recipe");
+  EXPECT_EQ(errorTextOf([&] { cursor.Index("RecipeIdxColour"); }), "No such index in the table. RecipeIdxColour");
+  EXPECT_EQ(errorTextOf([&] { static_cast<void>(cursor.Field("Colour")); }), "Field not found in this table. Colour");
+  EXPECT_EQ(errorTextOf([&] { database.Execute(" Delete FROM Drinks"); }),
+            "A table of the store couldn't be found. Drinks");
+}
+
+TEST_F(TableCursorTest, CloseLetsCopiesStayOpen) {
+  addThree();
+  Recordset cursor = titles();
+  cursor.Seek("=", "Beta");
+  Recordset copy = cursor;
+  cursor.Close();
+  EXPECT_EQ(errorOf([&] { static_cast<void>(cursor.Eof()); }), 3420);
+  EXPECT_EQ(copy.Field("Title"), Value("Beta"));
+}
+
 TEST_F(TableCursorTest, SeekByNumberAndYesNo) {
   addRecipe(7, "Seven", true);
   addRecipe(8, "Eight");
@@ -467,7 +537,6 @@ TEST_F(TableCursorTest, OpeningSystemRaisesCountersThatLagBehind) {
 
 TEST_F(TableCursorTest, SystemWithoutItsRowHasNoCurrentRecord) {
   removeRawRows(database, "System", "RecipeId", 0);
-  reopen();
   Recordset system = database.OpenRecordset("System");
   EXPECT_TRUE(system.Eof());
   EXPECT_EQ(errorOf([&] { static_cast<void>(system.Field("Cup")); }), 3021);
