@@ -45,8 +45,8 @@ int main(int argumentCount, char** argumentValues) {
   try {
     const pantrigo::NewStoreResult result = pantrigo::makeStore(*task);
     for (const std::string& warning : result.warnings) std::cerr << warning << '\n';
-    std::cout << task->store.string() << ": " << result.counts.added << " recipes of " << result.counts.read << " read, "
-              << result.unitWords << " unit words, " << result.counts.warnings << " warnings\n";
+    std::cout << task->store.string() << ": " << result.counts.added << " recipes of " << result.counts.read
+              << " read, " << result.unitWords << " unit words, " << result.counts.warnings << " warnings\n";
   } catch (const pantrigo::RuntimeError& error) {
     std::cerr << "newstore: error " << error.number() << ": " << error.text() << '\n';
     return 1;

@@ -1,7 +1,12 @@
 #include "newstore/make_store.h"
 
+#include <string_view>
+
+#include "platform/store/durability.h"
+#include "platform/store/unfinished_file.h"
 #include "platform/text/errors.h"
 #include "platform/text/letters.h"
+#include "platform/text/utf8.h"
 
 namespace pantrigo {
 
@@ -15,12 +20,38 @@ struct Option {
 /// Metric measures, quarters as fractions, no centi units on volumes and weights; all recipes listed at start.
 const std::vector<Option>& shippedOptions() {
   static const std::vector<Option> options{
-      {"Measurement", "m"},     {"PartialFractions", "4"},      {"Fractions", true},    {"UseOriginalUOM", false},
-      {"Centilitres", true},    {"Centimetres", false},         {"Centigrams", true},   {"Cup", 250},
-      {"Tablespoon", 4},        {"SettingsIngredients", false}, {"Kilojoules", true},   {"ShowRecipes", true},
+      {"Measurement", "m"},   {"PartialFractions", "4"},      {"Fractions", true},  {"UseOriginalUOM", false},
+      {"Centilitres", true},  {"Centimetres", false},         {"Centigrams", true}, {"Cup", 250},
+      {"Tablespoon", 4},      {"SettingsIngredients", false}, {"Kilojoules", true}, {"ShowRecipes", true},
       {"ShowToolBars", true},
   };
   return options;
+}
+
+/// The letters of the measurement systems, and of the words valid in all of them.
+constexpr std::string_view unitTypes = "miua";
+
+/// Most characters of a unit word.
+constexpr std::size_t longestUnitWord = 15;
+
+struct UnitWord {
+  std::string type;
+  std::string description;
+};
+
+UnitWord toUnitWord(const std::string& line) {
+  const auto refuse = [&line](const std::string& reason) {
+    throw RuntimeError(3421, "Not a unit word, " + reason + ": " + line);
+  };
+  const std::size_t tab = line.find('\t');
+  if (tab == std::string::npos) refuse("no tab behind its letter");
+  UnitWord word{line.substr(0, tab), line.substr(tab + 1)};
+  if (word.type.size() != 1 || unitTypes.find(word.type) == std::string_view::npos) {
+    refuse("its letter is none of m, i, u and a");
+  }
+  if (Trim(word.description).empty()) refuse("no word behind its letter");
+  if (Len(word.description) > longestUnitWord) refuse("it has more than 15 characters");
+  return word;
 }
 
 void openRecordsets(Global& global) {
@@ -29,9 +60,10 @@ void openRecordsets(Global& global) {
   global.gRecipe = global.gDatabase.OpenRecordset("Recipe");
 }
 
-void loadRecipes(Global& global, const Files& files, const std::filesystem::path& exchangeFile, NewStoreResult& result) {
+void loadRecipes(Global& global, const Files& files, const std::filesystem::path& exchangeFile,
+                 NewStoreResult& result) {
   openRecordsets(global);
-  global.gDatabase.setDurability(Database::Durability::AtCheckpoint);
+  CheckpointAtEnd updates(global.gDatabase);
   TextReader file(files, exchangeFile.string());
   ImportEvents events;
   events.warning = [&](const std::string& line) { result.warnings.push_back(line); };
@@ -39,7 +71,7 @@ void loadRecipes(Global& global, const Files& files, const std::filesystem::path
   ExchangeReader reader(global, files, pictures, DuplicateTitles::CreateUnique, std::move(events));
   reader.walk(file);
   reader.saveCounters();
-  global.gDatabase.setDurability(Database::Durability::EachUpdate);
+  updates.finish();
   result.counts = reader.counts();
 }
 
@@ -60,11 +92,10 @@ long loadUnitWords(Database& database, const Files& files, const std::filesystem
   while (!lines.Eof()) {
     const std::string line = lines.LineInput();
     if (Trim(line).empty()) continue;
-    const std::size_t tab = line.find('\t');
-    if (tab == std::string::npos) throw RuntimeError(93, "Not a unit word: " + line);
+    const UnitWord word = toUnitWord(line);
     units.AddNew();
-    units.Set("Type", line.substr(0, tab));
-    units.Set("Description", line.substr(tab + 1));
+    units.Set("Type", word.type);
+    units.Set("Description", word.description);
     units.Update();
     ++count;
   }
@@ -91,14 +122,11 @@ NewStoreResult fillStore(const NewStore& task, const Files& files) {
 NewStoreResult makeStore(const NewStore& task) {
   const Files files(std::filesystem::current_path());
   Database::createStore(task.store);
-  try {
-    return fillStore(task, files);
-  } catch (const RuntimeError&) {
-    // A store that could not be filled would stand in the way of the next try.
-    std::error_code ignored;
-    std::filesystem::remove(task.store, ignored);
-    throw;
-  }
+  // A store that could not be filled would stand in the way of the next try.
+  UnfinishedFile unfinished(task.store);
+  NewStoreResult result = fillStore(task, files);
+  unfinished.keep();
+  return result;
 }
 
 }  // namespace pantrigo

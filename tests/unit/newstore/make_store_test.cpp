@@ -1,7 +1,9 @@
 #include "newstore/make_store.h"
 
 #include <gtest/gtest.h>
+#include <sys/resource.h>
 
+#include <csignal>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
@@ -44,8 +46,39 @@ TEST_F(MakeStoreTest, AMissingExchangeFileIsAnErrorAndLeavesNoStore) {
 }
 
 TEST_F(MakeStoreTest, ALineThatIsNoUnitWordIsAnError) {
-  std::ofstream(folder_ / "units.txt") << "m\tmL\njust words\n";
-  EXPECT_EQ(errorOfMaking({store_, folder_ / "units.txt", {}}), 93);
+  for (const char* line : {"just words", "x\tmL", "M\tmL", "mi\tmL", "\tmL", "m\t", "m\t ", "a\tsixteen letters."}) {
+    std::ofstream(folder_ / "units.txt") << "m\tmL\n" << line << "\n";
+    EXPECT_EQ(errorOfMaking({store_, folder_ / "units.txt", {}}), 3421) << line;
+    EXPECT_FALSE(fs::exists(store_)) << line;
+  }
+  std::ofstream(folder_ / "units.txt") << "a\tfifteen létters\n";
+  EXPECT_EQ(makeStore({store_, folder_ / "units.txt", {}}).unitWords, 1);
+}
+
+TEST_F(MakeStoreTest, TheErrorOfAUnitWordTellsTheReason) {
+  std::ofstream(folder_ / "units.txt") << "x\tmL\n";
+  try {
+    makeStore({store_, folder_ / "units.txt", {}});
+    FAIL() << "the store was made";
+  } catch (const RuntimeError& error) {
+    EXPECT_EQ(error.text(), "Not a unit word, its letter is none of m, i, u and a: x\tmL");
+  }
+}
+
+TEST_F(MakeStoreTest, AStoreThatCannotBeWrittenIsNotLeftBehind) {
+  const auto handlerBefore = std::signal(SIGXFSZ, SIG_IGN);
+  rlimit before{};
+  getrlimit(RLIMIT_FSIZE, &before);
+  rlimit limit = before;
+  // More than an empty store takes, and less than the starter recipes do. In bytes.
+  limit.rlim_cur = 250'000;
+  setrlimit(RLIMIT_FSIZE, &limit);
+  const int error = errorOfMaking({store_, {}, dataFolder / "starter" / "cookbook.txt"});
+  setrlimit(RLIMIT_FSIZE, &before);
+  std::signal(SIGXFSZ, handlerBefore);
+  EXPECT_EQ(error, 75);
+  EXPECT_FALSE(fs::exists(store_));
+  EXPECT_FALSE(fs::exists(store_.string() + "-wal"));
 }
 
 TEST_F(MakeStoreTest, AnEmptyStoreHasItsOptions) {
