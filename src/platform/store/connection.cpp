@@ -113,6 +113,13 @@ void Connection::Closer::operator()(sqlite3* handle) const {
   sqlite3_close(handle);
 }
 
+Connection::LeftOver::~LeftOver() {
+  if (path.empty()) return;
+  // A file that stays is a blemish, and there is nobody to tell.
+  std::error_code ignored;
+  std::filesystem::remove(path, ignored);
+}
+
 void Connection::dropStatements() {
   queryStatements_.clear();
   statements_.clear();

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <filesystem>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -84,6 +85,9 @@ class Connection {
   /// The first column of the first row, as a text.
   [[nodiscard]] std::string single(const char* sql);
 
+  /// Removes a side file of the engine when the connection has closed.
+  void removeAtClose(const std::filesystem::path& file) { leftOver_.path = file; }
+
   /// Error 3027 when the store was opened only for reading.
   void requireWritable() const;
   [[nodiscard]] bool isReadOnly() const { return access_ == Access::ReadOnly; }
@@ -98,7 +102,13 @@ class Connection {
   using Statements = std::unordered_map<std::string, std::unique_ptr<Statement>>;
   [[nodiscard]] Statement& find(Statements& statements, const std::string& sql);
 
-  /// Comes first, so that it is closed when the statements are gone.
+  struct LeftOver {
+    ~LeftOver();
+    std::filesystem::path path;
+  };
+
+  // Members go from the last to the first: the statements, the handle, the side file.
+  LeftOver leftOver_;
   std::unique_ptr<sqlite3, Closer> handle_;
   Access access_;
   Statements statements_;

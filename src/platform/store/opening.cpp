@@ -69,6 +69,10 @@ std::unique_ptr<Connection> openReadOnly(const fs::path& file) {
   auto connection = std::make_unique<Connection>(file.string(), SQLITE_OPEN_READONLY, Access::ReadOnly);
   setCheckpointOnClose(*connection, false);
   const StoreHeader header = checkHeader(*connection, file);
+  // Reading a log that a crash left, the engine makes an index of it, which a reader does not take away.
+  const fs::path logIndex = file.string() + "-shm";
+  std::error_code failure;
+  if (header.isWriteAhead && !fs::exists(logIndex, failure)) connection->removeAtClose(logIndex);
   if (header.isWriteAhead && !hasLog(file)) {
     // Reading under a log needs side files, but without one all there is stands in the file.
     checkNotInUse(*connection);

@@ -60,8 +60,7 @@ void raiseCounter(Database::State& state, const TableDescription& table, const s
 std::vector<RawRow> rawRows(const Database& database, std::string_view tableName) {
   const Database::State& state = StoreAccess::state(database);
   const TableDescription& table = state.access(tableName).table();
-  std::string names;
-  for (const FieldDescription& field : table.fields) names += (names.empty() ? "" : ", ") + std::string(field.name);
+  const std::string names = nameList(table.fields, [](const FieldDescription& field) { return field.name; });
   Statement statement(state.connection().handle(),
                       "SELECT " + names + " FROM " + std::string(table.name) + " ORDER BY " + rowNumberColumn);
   std::vector<RawRow> rows;

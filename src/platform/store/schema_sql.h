@@ -10,6 +10,17 @@ namespace pantrigo {
 /// physical order. No field has this name.
 inline constexpr const char* rowNumberColumn = "RowNumber";
 
+/// The names that a function gives for the things of a range, with commas between them.
+template <class Range, class NameOf>
+[[nodiscard]] std::string nameList(const Range& range, NameOf nameOf) {
+  std::string text;
+  for (const auto& thing : range) {
+    if (!text.empty()) text += ", ";
+    text += nameOf(thing);
+  }
+  return text;
+}
+
 /// Texts that make a table and an index. An index that carries a field holds it behind the row number, so that rows
 /// with equal keys still come in the order in which they were stored.
 [[nodiscard]] std::string createTableText(const TableDescription& table);

@@ -62,9 +62,7 @@ Column resolve(const SqlField& name, const Scope& scope) {
 }
 
 std::string tableList(const Scope& scope) {
-  std::string text;
-  for (const TableDescription* table : scope.tables()) text += (text.empty() ? "" : ", ") + std::string(table->name);
-  return text;
+  return nameList(scope.tables(), [](const TableDescription* table) { return table->name; });
 }
 
 /// Writes conditions, and collects their literals as parameters.
@@ -142,17 +140,12 @@ std::vector<Column> selectedColumns(const SqlSelect& select, const Scope& scope)
 }
 
 std::string columnList(const std::vector<Column>& columns) {
-  std::string text;
-  for (const Column& column : columns) text += (text.empty() ? "" : ", ") + column.text();
-  return text;
+  return nameList(columns, [](const Column& column) { return column.text(); });
 }
 
 std::string rowNumberList(const Scope& scope) {
-  std::string text;
-  for (const TableDescription* table : scope.tables()) {
-    text += (text.empty() ? "" : ", ") + std::string(table->name) + "." + rowNumberColumn;
-  }
-  return text;
+  return nameList(scope.tables(),
+                  [](const TableDescription* table) { return std::string(table->name) + "." + rowNumberColumn; });
 }
 
 }  // namespace

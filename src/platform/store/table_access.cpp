@@ -34,14 +34,8 @@ Statement& TableAccess::readStatement(int field) {
   const bool isMemo = description.type == FieldType::Memo;
   Statement*& statement = isMemo ? readMemo_[static_cast<std::size_t>(field)] : readShort_;
   if (statement == nullptr) {
-    std::string names;
-    if (isMemo) {
-      names = description.name;
-    } else {
-      for (const int other : shortFields_) {
-        names += (names.empty() ? "" : ", ") + std::string(table_.fields[static_cast<std::size_t>(other)].name);
-      }
-    }
+    const auto nameOf = [this](int other) { return table_.fields[static_cast<std::size_t>(other)].name; };
+    const std::string names = isMemo ? std::string(description.name) : nameList(shortFields_, nameOf);
     statement = &connection_.statement("SELECT " + names + " FROM " + std::string(table_.name) + " WHERE " +
                                        rowNumberColumn + " = ?1");
   }

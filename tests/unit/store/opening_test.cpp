@@ -502,6 +502,7 @@ TEST_P(ReadOnlyTest, LogOfACrashIsReadOrTheStoreRefused) {
     EXPECT_EQ(error, 3051);
   }
   EXPECT_EQ(readFile(file()), before);
+  EXPECT_EQ(fileNames(), (Texts{"PANTRIGO.MDB", "PANTRIGO.MDB-wal"}));
 }
 
 INSTANTIATE_TEST_SUITE_P(Where, ReadOnlyTest, testing::Values(Protected::File, Protected::Folder));
