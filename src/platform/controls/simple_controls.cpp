@@ -31,44 +31,34 @@ bool MenuEntry::isMenu() const {
   return std::any_of(all.begin(), all.end(), [this](const Control* control) { return control->container() == this; });
 }
 
-void CheckBox::setValue(bool value) {
-  if (value_ == value) return;
+bool SwitchControl::changeValue(bool value) {
+  if (value_ == value) return false;
   value_ = value;
   changed(Aspect::Value);
-  Click();
+  return true;
 }
 
-void CheckBox::reset() {
+void SwitchControl::reset() {
   CaptionedControl::reset();
   value_ = designValue_;
 }
 
-void CheckBox::sealDesign() {
+void SwitchControl::sealDesign() {
   CaptionedControl::sealDesign();
   designValue_ = value_;
+}
+
+void CheckBox::setValue(bool value) {
+  if (changeValue(value)) Click();
 }
 
 void OptionButton::setValue(bool value) {
-  if (value_ == value) return;
-  value_ = value;
-  changed(Aspect::Value);
-  if (!value) return;
+  if (!changeValue(value) || !value) return;
   for (Control* control : form().controls()) {
-    if (control == this || control->kind() != ControlKind::OptionButton || control->container() != container())
-      continue;
-    static_cast<OptionButton*>(control)->setValue(false);
+    const bool neighbour = control != this && control->kind() == ControlKind::OptionButton;
+    if (neighbour && control->container() == container()) static_cast<OptionButton*>(control)->changeValue(false);
   }
   Click();
-}
-
-void OptionButton::reset() {
-  CaptionedControl::reset();
-  value_ = designValue_;
-}
-
-void OptionButton::sealDesign() {
-  CaptionedControl::sealDesign();
-  designValue_ = value_;
 }
 
 void Image::setPicture(PictureFile picture) {

@@ -55,37 +55,39 @@ class MenuEntry : public CaptionedControl {
   [[nodiscard]] bool isMenu() const;
 };
 
-/// A check box; a change of its value, also by code, raises `Click`.
-class CheckBox : public CaptionedControl {
+/// A captioned control that is on or off.
+class SwitchControl : public CaptionedControl {
  public:
-  CheckBox(Holder holder, std::string_view name, std::string_view caption, Box box)
-      : CaptionedControl(holder, ControlKind::CheckBox, name, caption, box) {}
   [[nodiscard]] bool Value() const { return value_; }
-  void setValue(bool value);
   [[nodiscard]] bool takesFocus() const override { return true; }
   void reset() override;
   void sealDesign() override;
+
+ protected:
+  using CaptionedControl::CaptionedControl;
+  /// Takes the value and tells the view; gives whether it was another one.
+  bool changeValue(bool value);
 
  private:
   bool value_ = false;
   bool designValue_ = false;
 };
 
+/// A check box; a change of its value, also by code, raises `Click`.
+class CheckBox : public SwitchControl {
+ public:
+  CheckBox(Holder holder, std::string_view name, std::string_view caption, Box box)
+      : SwitchControl(holder, ControlKind::CheckBox, name, caption, box) {}
+  void setValue(bool value);
+};
+
 /// One of the options of a frame, of which at most one is chosen. Turning one on raises its `Click` and turns its
 /// neighbours off, which raises nothing.
-class OptionButton : public CaptionedControl {
+class OptionButton : public SwitchControl {
  public:
   OptionButton(Holder holder, std::string_view name, std::string_view caption, Box box)
-      : CaptionedControl(holder, ControlKind::OptionButton, name, caption, box) {}
-  [[nodiscard]] bool Value() const { return value_; }
+      : SwitchControl(holder, ControlKind::OptionButton, name, caption, box) {}
   void setValue(bool value);
-  [[nodiscard]] bool takesFocus() const override { return true; }
-  void reset() override;
-  void sealDesign() override;
-
- private:
-  bool value_ = false;
-  bool designValue_ = false;
 };
 
 /// A picture as the toolkit loaded it: the name it was asked for, its size in pixels, and the file's bytes, which the
