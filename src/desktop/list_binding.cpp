@@ -49,9 +49,7 @@ class ListBinding : public Binding {
     actions.toggles = [this](int row) {
       events().dispatch([&](Windows& windows) { userToggles(windows, list_, row); });
     };
-    actions.doubleClicks = [this] {
-      events().dispatch([&](Windows& windows) { userDoubleClicks(windows, list_); });
-    };
+    actions.doubleClicks = [this] { events().dispatch([&](Windows& windows) { userDoubleClicks(windows, list_); }); };
     actions.pressesBeside = [this] {
       events().dispatch([&](Windows& windows) { userPresses(windows, list_, leftButton); });
     };
