@@ -46,6 +46,7 @@ int main(int argc, char* argv[]) {
   QObject::connect(
       &application, &QGuiApplication::commitDataRequest, &application, [&](QSessionManager&) { desktop.close(); },
       Qt::DirectConnection);
+  if (arguments.isSet(pictures)) desktop.toolkit().setUnattended();
   desktop.start();
   return arguments.isSet(pictures) ? runForPictures(desktop, arguments.value(pictures)) : desktop.run();
 }

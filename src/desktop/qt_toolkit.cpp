@@ -9,6 +9,7 @@
 #include <QPrintDialog>
 #include <QPushButton>
 #include <QScreen>
+#include <QTextStream>
 #include <utility>
 
 #include "desktop/text_conversion.h"
@@ -155,6 +156,10 @@ int QtToolkit::run(QDialog& dialog) {
 }
 
 BoxAnswer QtToolkit::showBox(const MessageBox& box) {
+  if (unattended_) {
+    QTextStream(stderr) << toQt(box.caption) << ": " << shownLines(box.text) << '\n';
+    return asksYesNo(box.style) ? BoxAnswer::No : BoxAnswer::OK;
+  }
   QMessageBox dialog(activeWindow());
   dialog.setIcon(boxIcon(box.style));
   dialog.setWindowTitle(toQt(box.caption));

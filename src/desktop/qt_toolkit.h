@@ -28,6 +28,10 @@ class QtToolkit : public Toolkit, private ViewHost {
   /// Called when the run has ended and nothing of it is running any more.
   std::function<void()> whenEnded;
 
+  /// Nobody is there to answer from now on: the text of a box goes to the standard error stream, and a question is
+  /// answered with No.
+  void setUnattended() { unattended_ = true; }
+
   /// One event of a person's, or of the system's in a person's place.
   void dispatch(const std::function<void(Windows&)>& event) override;
 
@@ -76,6 +80,7 @@ class QtToolkit : public Toolkit, private ViewHost {
   QPointer<QWidget> help_;
   int modalWaits_ = 0;
   bool screenPointerSet_ = false;
+  bool unattended_ = false;
   /// The form whose window the program has asked to become active, until the system has done so; what the system makes
   /// active on the way there is no doing of a person's.
   const Form* expected_ = nullptr;

@@ -245,6 +245,17 @@ TEST_F(WindowsTest, AMissingStoreIsReportedAndEndsTheRun) {
   EXPECT_EQ(without.run(), 1);
 }
 
+TEST_F(WindowsTest, WithNobodyThereAnErrorWaitsForNoAnswer) {
+  std::filesystem::remove(path() / "PANTRIGO.MDB");
+  Desktop without(path());
+  without.toolkit().setUnattended();
+  testing::internal::CaptureStderr();
+  without.start();
+  EXPECT_NE(testing::internal::GetCapturedStderr().find("Pantrigo: Run-time error '3024':\n"), std::string::npos);
+  EXPECT_TRUE(dialogs.boxes().empty());
+  EXPECT_EQ(without.run(), 1);
+}
+
 TEST_F(WindowsTest, ControlsGrowWithTheWindow) {
   start();
   FormView& view = window(run().frmBrowse);
