@@ -12,7 +12,7 @@ namespace pantrigo {
 
 namespace {
 
-/// Query texts differ only in which conditions are set; a session seldom makes more kinds than this.
+/// Query texts differ only in which conditions are set; a run seldom makes more kinds than this.
 constexpr std::size_t mostQueryStatements = 64;
 
 /// Whole numbers are exact in a double up to here; larger ones are bound as they are.
