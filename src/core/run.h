@@ -5,8 +5,15 @@
 #include "core/global.h"
 #include "forms/frmAbout.h"
 #include "forms/frmBrowse.h"
+#include "forms/frmCategory.h"
 #include "forms/frmDetail.h"
+#include "forms/frmIngredient.h"
+#include "forms/frmNutrition.h"
+#include "forms/frmOptions.h"
 #include "forms/frmOven.h"
+#include "forms/frmSettings.h"
+#include "forms/frmSource.h"
+#include "forms/frmView.h"
 #include "platform/controls/event_loop.h"
 #include "platform/controls/windows.h"
 #include "platform/files/files.h"
@@ -30,9 +37,19 @@ struct Run {
   FrmDetail frmDetail;
   FrmAbout frmAbout;
   FrmOven frmOven;
+  FrmIngredient frmIngredient;
+  FrmNutrition frmNutrition;
+  FrmSettings frmSettings;
+  FrmSource frmSource;
+  FrmCategory frmCategory;
+  FrmOptions frmOptions;
+  FrmView frmView;
 
   /// All forms, for what goes over every one of them.
-  [[nodiscard]] std::vector<Form*> forms() { return {&frmBrowse, &frmDetail, &frmAbout, &frmOven}; }
+  [[nodiscard]] std::vector<Form*> forms() {
+    return {&frmBrowse,   &frmDetail, &frmAbout,    &frmOven,    &frmIngredient, &frmNutrition,
+            &frmSettings, &frmSource, &frmCategory, &frmOptions, &frmView};
+  }
 };
 
 }  // namespace pantrigo

@@ -14,7 +14,7 @@
 #include <optional>
 
 #include "desktop/accessible_names.h"
-#include "desktop/dialog_layouts.h"
+#include "desktop/dialogs/dialog_layouts.h"
 #include "desktop/look.h"
 #include "desktop/row_list.h"
 #include "desktop/text_conversion.h"

@@ -10,6 +10,13 @@ Program::Program(Toolkit& toolkit, std::filesystem::path folder) : run_(toolkit,
   wireFrmDetail(run_);
   wireFrmAbout(run_);
   wireFrmOven(run_);
+  wireFrmIngredient(run_);
+  wireFrmNutrition(run_);
+  wireFrmSettings(run_);
+  wireFrmSource(run_);
+  wireFrmCategory(run_);
+  wireFrmOptions(run_);
+  wireFrmView(run_);
   for (Form* form : run_.forms()) finishWiring(*form);
   run_.loop.closing = [this] { closeStore(run_); };
 }

@@ -10,4 +10,8 @@ class FormView;
 /// its controls then stand at their places in twips.
 bool layOutDialog(const FormView& view, QWidget& canvas);
 
+// One function a dialog, in a file of its own.
+void layOutAbout(const FormView& view, QWidget& canvas);
+void layOutOven(const FormView& view, QWidget& canvas);
+
 }  // namespace pantrigo
