@@ -17,7 +17,7 @@ void frmBrowse_Load(Run& run) {
   FrmBrowse& form = run.frmBrowse;
   const auto scale = static_cast<float>(run.toolkit.screen().width / designScreenWidth);
   run.GLOBAL.gScale = scale;
-  sizeToolBar(run, form.tbBrowse);
+  sizeToolBar(run, form.tbBrowse, form.ilBrowse, form.ilBrowse1);
   for (Control* control : form.controls()) {
     if (control->kind() != ControlKind::MenuEntry) control->scale(scale);
   }

@@ -22,9 +22,14 @@ void applyToolBarLayout(Run& run) {
   browse.lstOther.setHeight((810 + gained) * scale);
 }
 
-void sizeToolBar(Run& run, ToolBar& toolBar) {
+void sizeToolBar(Run& run, ToolBar& toolBar, const ImageList& small, const ImageList& large) {
   const bool designSize = run.GLOBAL.gScale == 1;
-  toolBar.setButtonSize(designSize ? smallButtonWidth : largeButtonWidth, designSize ? 0 : 1);
+  toolBar.setButtonWidth(designSize ? smallButtonWidth : largeButtonWidth);
+  toolBar.setImageList(designSize ? small : large);
+  int number = 0;
+  for (std::size_t place = 0; place < toolBar.buttons().size(); ++place) {
+    if (!toolBar.buttons()[place].key.empty()) toolBar.setButtonImage(place, ++number);
+  }
   toolBar.setSpacerVisible(0, !designSize);
   toolBar.setSpacerVisible(1, !designSize);
 }

@@ -13,8 +13,9 @@ inline constexpr double toolBarHeight = 640;
 /// Shows or hides both tool bars, and gives the main window's list and filters the room that is left.
 void applyToolBarLayout(Run& run);
 
-/// Sizes a tool bar's buttons for the screen, and shows its first two spacers on any but one of the design's width.
-void sizeToolBar(Run& run, ToolBar& toolBar);
+/// Sizes a tool bar's buttons for the screen, gives them their pictures in order, and shows its first two spacers on
+/// any screen but one of the design's width, which has the small pictures.
+void sizeToolBar(Run& run, ToolBar& toolBar, const ImageList& small, const ImageList& large);
 
 /// Enlarges a form for the screen and places it: centred across, a third of the free height above.
 void placeForm(Run& run, Form& form, double scale);

@@ -5,8 +5,6 @@ namespace pantrigo {
 namespace {
 
 constexpr std::string_view helpFile = "PANTRIGO.HLP";
-constexpr int helpCommandContext = 1;
-constexpr int helpCommandPartialKey = 261;
 
 }  // namespace
 
@@ -38,11 +36,17 @@ void subSelectRecipe(Run& run) {
 }
 
 void subShowHelp(Run& run, int context) {
-  run.toolkit.showHelp({std::string(helpFile), helpCommandContext, context});
+  CommonDialog& dialog = run.frmBrowse.CMDialog1;
+  dialog.setHelpFile(helpFile);
+  dialog.setHelpContext(context);
+  dialog.setHelpCommand(helpOfContext);
+  dialog.setAction(DialogAction::Help);
 }
 
-void showHelpSearch(Run& run) {
-  run.toolkit.showHelp({std::string(helpFile), helpCommandPartialKey, 0});
+void showHelpSearch(CommonDialog& dialog) {
+  dialog.setHelpFile(helpFile);
+  dialog.setHelpCommand(helpPartialKey);
+  dialog.setAction(DialogAction::Help);
 }
 
 }  // namespace pantrigo

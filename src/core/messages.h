@@ -28,13 +28,13 @@ void subNotNumeric(Run& run);
 /// A recipe must be selected first.
 void subSelectRecipe(Run& run);
 
-/// Shows the help page of a context.
+/// Shows the help page of a context, by the dialog of the main window.
 void subShowHelp(Run& run, int context);
 
 /// Help contexts by the place they are asked from.
 enum HelpContext : int { helpContents = 0, helpBrowse = 300, helpDetail = 400 };
 
-/// Shows the search of the help by a word.
-void showHelpSearch(Run& run);
+/// Shows the search of the help by a word, by a form's own dialog.
+void showHelpSearch(CommonDialog& dialog);
 
 }  // namespace pantrigo

@@ -63,6 +63,8 @@ std::unique_ptr<Binding> makeBinding(Control& control, QWidget& parent, UserEven
     case ControlKind::Image:
       return bindImage(static_cast<Image&>(control), parent, events);
     case ControlKind::MenuEntry:
+    case ControlKind::CommonDialog:
+    case ControlKind::ImageList:
       break;
   }
   return nullptr;

@@ -60,7 +60,7 @@ inline constexpr const char* signProperty = "sign";
 inline constexpr const char* textSizeProperty = "textSize";
 
 /// The widget and binding of a control, inside the given parent. Null for the kinds that a form's window shows by
-/// itself (menu entries).
+/// itself (menu entries) or that nobody sees.
 [[nodiscard]] std::unique_ptr<Binding> makeBinding(Control& control, QWidget& parent, UserEvents& events);
 
 // One function a kind, for `makeBinding`.

@@ -14,6 +14,8 @@ namespace pantrigo {
 
 namespace {
 
+/// Property of a button: the name of the picture that it shows.
+constexpr const char* pictureProperty = "picture";
 /// Width of a spacer, in buttons.
 constexpr double spacerWidth = 0.25;
 /// A button is at most this much wider than high.
@@ -50,7 +52,6 @@ class BarWidget : public QWidget {
     auto* button = new QToolButton(this);
     button->setObjectName(toQt(description.key));
     button->setText(toQt(description.key));
-    button->setIcon(iconNamed(toQt(description.key)));
     button->setToolTip(toQt(description.toolTip));
     button->setAccessibleName(toQt(description.toolTip));
     button->setFocusPolicy(Qt::NoFocus);
@@ -58,12 +59,20 @@ class BarWidget : public QWidget {
     return button;
   }
 
-  static void showButton(QToolButton& button, const ToolButton& state) {
+  void showButton(QToolButton& button, const ToolButton& state) const {
     const QSignalBlocker blocker(button);
+    showPicture(button, state.image);
     button.setEnabled(state.enabled);
     button.setVisible(state.visible);
     button.setCheckable(state.value != 0);
     button.setChecked(state.value != 0);
+  }
+
+  void showPicture(QToolButton& button, int number) const {
+    const QString picture = bar_.imageList() == nullptr ? QString() : toQt(bar_.imageList()->picture(number));
+    if (button.property(pictureProperty).toString() == picture) return;
+    button.setProperty(pictureProperty, picture);
+    button.setIcon(picture.isEmpty() ? QIcon() : iconNamed(picture));
   }
 
   [[nodiscard]] double buttonsInRow() const {

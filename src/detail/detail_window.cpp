@@ -35,7 +35,7 @@ void frmDetail_Load(Run& run) {
   Global& global = run.GLOBAL;
   FrmDetail& form = run.frmDetail;
   placeForm(run, form, global.gScale);
-  sizeToolBar(run, form.tbDetail);
+  sizeToolBar(run, form.tbDetail, form.ilDetail, form.ilDetail1);
   scaleControls(run);
   form.txtTitle.setText(global.gSelectedTitle);
   copyCategoryLists(run);

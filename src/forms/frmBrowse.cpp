@@ -26,6 +26,10 @@ std::vector<ToolButton> FrmBrowse::toolButtons() {
   };
 }
 
+std::vector<std::string> FrmBrowse::toolPictures() {
+  return pictureNames(toolButtons());
+}
+
 FrmBrowse::FrmBrowse() : Form("frmBrowse", "Pantrigo", 9600, 6630) {
   setKeyPreview(true);
   sealDesign(&txtTitle);

@@ -11,6 +11,9 @@ struct FrmBrowse : Form {
   FrmBrowse();
 
   ToolBar tbBrowse{*this, "tbBrowse", {0, 0, 9600, 640}, toolButtons()};
+  ImageList ilBrowse{*this, "ilBrowse", smallPicture, toolPictures()};
+  ImageList ilBrowse1{*this, "ilBrowse1", largePicture, toolPictures()};
+  CommonDialog CMDialog1{*this, "CMDialog1"};
 
   Frame fmeFilters{*this, "fmeFilters", "", {60, 640, 4080, 5955}};
   Label lblFilters{fmeFilters, "lblFilters", "Filters", {120, 0, 750, 225}};
@@ -154,6 +157,7 @@ struct FrmBrowse : Form {
 
  private:
   static std::vector<ToolButton> toolButtons();
+  static std::vector<std::string> toolPictures();
   static constexpr Box captionBox(double top) { return {240, top + 30, 2160, 255}; }
   static constexpr Box signBox(double top) { return {2430, top + 30, 420, 255}; }
   static constexpr Box numberBox(double top) { return {2880, top, 1080, 300}; }

@@ -26,6 +26,10 @@ std::vector<ToolButton> FrmDetail::toolButtons() {
   };
 }
 
+std::vector<std::string> FrmDetail::toolPictures() {
+  return pictureNames(toolButtons());
+}
+
 FrmDetail::FrmDetail() : Form("frmDetail", "Recipe Detail", 9600, 6630) {
   setKeyPreview(true);
   for (Label* clickable : {&lblNationality, &lblCourse, &lblCooking, &lblEase, &lblHealth, &lblOther, &lblPicture,

@@ -11,6 +11,9 @@ struct FrmDetail : Form {
   FrmDetail();
 
   ToolBar tbDetail{*this, "tbDetail", {0, 0, 9600, 640}, toolButtons()};
+  ImageList ilDetail{*this, "ilDetail", smallPicture, toolPictures()};
+  ImageList ilDetail1{*this, "ilDetail1", largePicture, toolPictures()};
+  CommonDialog CMDialog1{*this, "CMDialog1"};
 
   Frame fmeTitle{*this, "fmeTitle", "", {0, 640, 9555, 560}};
   TextBox txtTitle{fmeTitle, "txtTitle", {90, 225, 9375, 285}, 80};
@@ -96,6 +99,7 @@ struct FrmDetail : Form {
 
  private:
   static std::vector<ToolButton> toolButtons();
+  static std::vector<std::string> toolPictures();
 };
 
 }  // namespace pantrigo

@@ -10,7 +10,7 @@ namespace pantrigo {
 namespace {
 
 constexpr MenuCommand<FrmBrowse> menuCommands[] = {
-    {&FrmBrowse::mnuPrintSetup, setUpPrinter},
+    {&FrmBrowse::mnuPrintSetup, [](Run& run) { setUpPrinter(run.frmBrowse.CMDialog1); }},
     {&FrmBrowse::mnuAdd, subOpenBlankDetail},
     {&FrmBrowse::mnuUpdate, subOpenSelected},
     {&FrmBrowse::mnuDelete, subDeleteSelected},
@@ -20,7 +20,7 @@ constexpr MenuCommand<FrmBrowse> menuCommands[] = {
     {&FrmBrowse::mnuLast, subListLast},
     {&FrmBrowse::mnuMeal, subListToggleMeal},
     {&FrmBrowse::mnuContents, [](Run& run) { subShowHelp(run, helpContents); }},
-    {&FrmBrowse::mnuSearch, showHelpSearch},
+    {&FrmBrowse::mnuSearch, [](Run& run) { showHelpSearch(run.frmBrowse.CMDialog1); }},
     {&FrmBrowse::mnuAbout, [](Run& run) { run.windows.ShowModal(run.frmAbout); }},
 };
 

@@ -40,8 +40,9 @@ void disableUnwiredButtons(FormType& form, ToolBar& toolBar, std::span<const Too
 }
 
 /// The printer set-up dialog with the platform's flags: set-up box, without page numbers, selection and print-to-file.
-inline void setUpPrinter(Run& run) {
-  run.toolkit.setUpPrinter(0x1000CC);
+inline void setUpPrinter(CommonDialog& dialog) {
+  dialog.setFlags(0x1000CC);
+  dialog.setAction(DialogAction::Printer);
 }
 
 }  // namespace pantrigo

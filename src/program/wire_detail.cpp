@@ -12,7 +12,7 @@ namespace pantrigo {
 namespace {
 
 constexpr MenuCommand<FrmDetail> menuCommands[] = {
-    {&FrmDetail::mnuPrinterSetup, setUpPrinter},
+    {&FrmDetail::mnuPrinterSetup, [](Run& run) { setUpPrinter(run.frmDetail.CMDialog1); }},
     {&FrmDetail::mnuExit, leaveDetail},
     {&FrmDetail::mnuClear, clearRecipe},
     {&FrmDetail::mnuFind, subFindRecipe},
@@ -23,7 +23,7 @@ constexpr MenuCommand<FrmDetail> menuCommands[] = {
     {&FrmDetail::mnuMeal, subToggleMeal},
     {&FrmDetail::mnuOven, [](Run& run) { run.windows.ShowModal(run.frmOven); }},
     {&FrmDetail::mnuContents, [](Run& run) { subShowHelp(run, helpContents); }},
-    {&FrmDetail::mnuSearch, showHelpSearch},
+    {&FrmDetail::mnuSearch, [](Run& run) { showHelpSearch(run.frmDetail.CMDialog1); }},
     {&FrmDetail::mnuAbout, [](Run& run) { run.windows.ShowModal(run.frmAbout); }},
 };
 

@@ -91,6 +91,37 @@ const ControlProperty ofImages[] = {
      {}},
 };
 
+const ControlProperty ofDialogs[] = {
+    {"Flags", [](const Control& c) -> Value { return as<CommonDialog>(c).Flags(); },
+     [](Control& c, double value) { as<CommonDialog>(c).setFlags(static_cast<int>(value)); }},
+    {"HelpFile", [](const Control& c) -> Value { return as<CommonDialog>(c).HelpFile(); },
+     [](Control& c, const std::string& value) { as<CommonDialog>(c).setHelpFile(value); }},
+    {"HelpCommand", [](const Control& c) -> Value { return as<CommonDialog>(c).HelpCommand(); },
+     [](Control& c, double value) { as<CommonDialog>(c).setHelpCommand(static_cast<int>(value)); }},
+    {"HelpContext", [](const Control& c) -> Value { return as<CommonDialog>(c).HelpContext(); },
+     [](Control& c, double value) { as<CommonDialog>(c).setHelpContext(static_cast<int>(value)); }},
+    {"Action", [](const Control& c) -> Value { return as<CommonDialog>(c).Action(); },
+     [](Control& c, double value) {
+       as<CommonDialog>(c).setAction(static_cast<DialogAction>(static_cast<int>(value)));
+     }},
+};
+
+const ControlProperty ofImageLists[] = {
+    {"ImageWidth", [](const Control& c) -> Value { return as<ImageList>(c).side(); }, {}},
+    {"ImageHeight", [](const Control& c) -> Value { return as<ImageList>(c).side(); }, {}},
+};
+
+const ControlProperty ofToolBars[] = {
+    {"ButtonWidth", [](const Control& c) -> Value { return as<ToolBar>(c).ButtonWidth(); },
+     [](Control& c, double value) { as<ToolBar>(c).setButtonWidth(value); }},
+    {"ImageList",
+     [](const Control& c) -> Value {
+       const ImageList* list = as<ToolBar>(c).imageList();
+       return list == nullptr ? Value("") : Value(list->Name());
+     },
+     {}},
+};
+
 const FormProperty ofForms[] = {
     {"Caption", [](const Form& f) -> Value { return f.Caption(); },
      [](Form& f, const std::string& value) { f.setCaption(value); }},
@@ -126,6 +157,8 @@ const KindProperties ofKinds[] = {
     {ControlKind::CheckBox, ofCheckBoxes},  {ControlKind::OptionButton, ofCaptioned},
     {ControlKind::OptionButton, ofOptions}, {ControlKind::CommandButton, ofCaptioned},
     {ControlKind::MenuEntry, ofCaptioned},  {ControlKind::Image, ofImages},
+    {ControlKind::ToolBar, ofToolBars},     {ControlKind::CommonDialog, ofDialogs},
+    {ControlKind::ImageList, ofImageLists},
 };
 
 template <class Owner>

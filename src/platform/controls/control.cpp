@@ -15,6 +15,10 @@ void Control::changed(Aspect aspect) {
   if (FormListener* listener = form_.listener()) listener->controlChanged(*this, aspect);
 }
 
+Toolkit* Control::toolkit() const {
+  return form_.windows_ == nullptr ? nullptr : &form_.windows_->loop().toolkit();
+}
+
 void Control::setEnabled(bool enabled) {
   if (common_.enabled == enabled) return;
   common_.enabled = enabled;

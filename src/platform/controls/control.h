@@ -9,6 +9,7 @@ namespace pantrigo {
 
 class Form;
 class Control;
+class Toolkit;
 
 /// A place and a size in twips (1440 to the inch, 15 to the pixel of a plain screen).
 struct Box {
@@ -29,7 +30,9 @@ enum class ControlKind {
   CommandButton,
   MenuEntry,
   ToolBar,
-  Image
+  Image,
+  CommonDialog,
+  ImageList
 };
 
 /// What a listener is told has changed.
@@ -126,6 +129,8 @@ class Control {
 
  protected:
   void changed(Aspect aspect);
+  /// What the form is shown by; null while it was never loaded.
+  [[nodiscard]] Toolkit* toolkit() const;
 
  private:
   struct Common {

@@ -4,3 +4,4 @@
 #include "platform/controls/simple_controls.h"
 #include "platform/controls/text_controls.h"
 #include "platform/controls/tool_bar.h"
+#include "platform/controls/unseen_controls.h"

@@ -4,6 +4,14 @@
 
 namespace pantrigo {
 
+std::vector<std::string> pictureNames(const std::vector<ToolButton>& buttons) {
+  std::vector<std::string> names;
+  for (const ToolButton& button : buttons) {
+    if (!button.key.empty()) names.push_back(button.key);
+  }
+  return names;
+}
+
 ToolBar::ToolBar(Holder holder, std::string_view name, Box box, std::vector<ToolButton> buttons)
     : Control(holder, ControlKind::ToolBar, name, box), buttons_(std::move(buttons)) {}
 
@@ -42,9 +50,19 @@ void ToolBar::setSpacerVisible(std::size_t place, bool visible) {
   changed(Aspect::Buttons);
 }
 
-void ToolBar::setButtonSize(double width, int imageList) {
+void ToolBar::setButtonWidth(double width) {
   buttonWidth_ = width;
-  imageList_ = imageList;
+  changed(Aspect::Buttons);
+}
+
+void ToolBar::setImageList(const ImageList& list) {
+  imageList_ = &list;
+  for (ToolButton& button : buttons_) button.image = 0;
+  changed(Aspect::Buttons);
+}
+
+void ToolBar::setButtonImage(std::size_t place, int number) {
+  if (place < buttons_.size()) buttons_[place].image = number;
   changed(Aspect::Buttons);
 }
 
@@ -52,7 +70,7 @@ void ToolBar::reset() {
   Control::reset();
   buttons_ = designButtons_;
   buttonWidth_ = smallButtonWidth;
-  imageList_ = 0;
+  imageList_ = nullptr;
 }
 
 void ToolBar::sealDesign() {

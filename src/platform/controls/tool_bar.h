@@ -3,7 +3,7 @@
 #include <string>
 #include <vector>
 
-#include "platform/controls/control.h"
+#include "platform/controls/unseen_controls.h"
 
 namespace pantrigo {
 
@@ -15,11 +15,19 @@ struct ToolButton {
   bool visible = true;
   /// 1 when it is shown pressed, else 0.
   int value = 0;
+  /// Number of its picture in the bar's image list, counted from 1; 0 for none.
+  int image = 0;
 };
+
+/// The names of the pictures that the buttons show, in order: those of their keys. Spacers have none.
+[[nodiscard]] std::vector<std::string> pictureNames(const std::vector<ToolButton>& buttons);
 
 /// Width of a tool bar button with the small pictures and with the large ones, in twips.
 inline constexpr double smallButtonWidth = 585.0715;
 inline constexpr double largeButtonWidth = 705.26;
+/// Width and height of the small pictures and of the large ones, in pixels of a plain screen.
+inline constexpr int smallPicture = 32;
+inline constexpr int largePicture = 40;
 
 /// A row of buttons, found by their keys.
 class ToolBar : public Control {
@@ -38,11 +46,15 @@ class ToolBar : public Control {
   /// Shows or hides the spacer at that place (counted from 0).
   void setSpacerVisible(std::size_t place, bool visible);
 
-  /// Width of a button in twips of the platform's tool bar, and which of its two image lists it uses (0 small, 1
-  /// large).
-  [[nodiscard]] double buttonWidth() const { return buttonWidth_; }
-  [[nodiscard]] int imageList() const { return imageList_; }
-  void setButtonSize(double width, int imageList);
+  /// Width of a button in twips of the platform's tool bar.
+  [[nodiscard]] double ButtonWidth() const { return buttonWidth_; }
+  void setButtonWidth(double width);
+  /// Where the buttons have their pictures from; null before one is set.
+  [[nodiscard]] const ImageList* imageList() const { return imageList_; }
+  /// Takes another image list; no button has a picture then.
+  void setImageList(const ImageList& list);
+  /// Gives the button at that place (counted from 0) the picture of that number.
+  void setButtonImage(std::size_t place, int number);
 
   void reset() override;
   void sealDesign() override;
@@ -56,7 +68,7 @@ class ToolBar : public Control {
   std::vector<ToolButton> buttons_;
   std::vector<ToolButton> designButtons_;
   double buttonWidth_ = smallButtonWidth;
-  int imageList_ = 0;
+  const ImageList* imageList_ = nullptr;
 };
 
 }  // namespace pantrigo
