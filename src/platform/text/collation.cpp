@@ -3,6 +3,7 @@
 #include <unicode/coll.h>
 #include <unicode/stringpiece.h>
 #include <unicode/uchar.h>
+#include <unicode/unistr.h>
 #include <unicode/uversion.h>
 
 #include <algorithm>
@@ -161,6 +162,24 @@ int collate(std::string_view left, std::string_view right) {
   const std::u32string rightFolded = folded(right);
   result = collateByRules(encodeUtf8(leftFolded), encodeUtf8(rightFolded));
   return result != 0 ? result : passedOver(leftFolded).compare(passedOver(rightFolded));
+}
+
+std::string sortKey(std::string_view text) {
+  const std::u32string seen = folded(text);
+  const auto units =
+      icu::UnicodeString::fromUTF32(reinterpret_cast<const UChar32*>(seen.data()), static_cast<int32_t>(seen.size()));
+  std::array<std::uint8_t, 128> usual{};
+  const int32_t size = collator().getSortKey(units, usual.data(), static_cast<int32_t>(usual.size()));
+  std::string key(reinterpret_cast<const char*>(usual.data()), std::min(static_cast<std::size_t>(size), usual.size()));
+  if (key.size() < static_cast<std::size_t>(size)) {
+    key.resize(static_cast<std::size_t>(size));
+    collator().getSortKey(units, reinterpret_cast<std::uint8_t*>(key.data()), size);
+  }
+  // The collator's part ends with a byte 0, which is nowhere else in it.
+  for (const char32_t part : passedOver(seen)) {
+    for (const int shift : {24, 16, 8, 0}) key += static_cast<char>((part >> shift) & 0xFF);
+  }
+  return key;
 }
 
 std::string collationVersion() {

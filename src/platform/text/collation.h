@@ -12,6 +12,10 @@ namespace pantrigo {
 /// can't be loaded, which happens at the first use or never.
 [[nodiscard]] int collate(std::string_view left, std::string_view right);
 
+/// Bytes that stand for a text in that order: two keys compare, byte by byte as unsigned numbers, as `collate` compares
+/// their texts. For the sorting of many texts, each of which is looked at once.
+[[nodiscard]] std::string sortKey(std::string_view text);
+
 /// A text that changes whenever the order could: stamped into the store, whose indexes are rebuilt when it differs.
 [[nodiscard]] std::string collationVersion();
 
