@@ -1,6 +1,7 @@
 #include "large_store.h"
 
 #include <array>
+#include <initializer_list>
 #include <random>
 #include <string>
 
@@ -37,12 +38,24 @@ std::string title(std::mt19937& random, long id) {
          std::string(pick(random, dishes)) + " " + plainText(id);
 }
 
-std::string ingredients(std::mt19937& random) {
+/// Whether a recipe is among a number of them that are strewn over the store. The multipliers
+/// are primes that share no factor with the recipes' count; sets of different ones are independent of each other.
+bool isAmong(long id, long count, long multiplier) {
+  return id * multiplier % recipeCount < count;
+}
+
+std::string ingredientRow(std::string_view name) {
+  return "250000~mg~" + std::string(name) + "~chopped~250~g~";
+}
+
+std::string ingredients(std::mt19937& random, long id) {
   std::string memo;
   const unsigned rows = 6 + random() % 8;
-  for (unsigned row = 0; row < rows; ++row) {
-    memo += "250000~mg~" + std::string(pick(random, mains)) + "~chopped~250~g~";
-  }
+  for (unsigned row = 0; row < rows; ++row) memo += ingredientRow(pick(random, mains));
+  if (isAmong(id, 600, 7919)) memo += ingredientRow("Saffron");
+  if (isAmong(id, 36000, 104729)) memo += ingredientRow("Butter");
+  if (isAmong(id, 600, 15485863)) memo += ingredientRow("Gruy\u00E8re");
+  if (isAmong(id, 36000, 32452843)) memo += ingredientRow("Cr\u00E8me fra\u00EEche");
   return memo;
 }
 
@@ -62,11 +75,48 @@ void addRecipes(Database& database) {
     recipes.Set("Title", title(random, id));
     recipes.Set("Meal", random() % 100 == 0);
     recipes.Set("Serves", static_cast<int>(2 + random() % 8));
-    recipes.Set("Ingredients", ingredients(random));
+    if (id % 2 == 0) recipes.Set("Course", 1);
+    if (id % 10 == 1) recipes.Set("Course", 2);
+    recipes.Set("Ingredients", ingredients(random, id));
     recipes.Set("Method", method(random));
     recipes.Update();
   }
   recipes.Close();
+}
+
+void addCategories(Database& database, const std::string& table, std::initializer_list<const char*> descriptions) {
+  Recordset categories = database.OpenRecordset(table);
+  long id = 0;
+  for (const char* description : descriptions) {
+    categories.AddNew();
+    categories.Set(table + "Id", ++id);
+    categories.Set("Description", description);
+    categories.Update();
+  }
+  categories.Close();
+}
+
+void linkRecipes(Database& database, const std::string& table, long categoryId, long count, long multiplier) {
+  Recordset links = database.OpenRecordset("Recipe" + table);
+  for (long id = 1; id <= recipeCount; ++id) {
+    if (!isAmong(id, count, multiplier)) continue;
+    links.AddNew();
+    links.Set("RecipeId", id);
+    links.Set(table + "Id", categoryId);
+    links.Update();
+  }
+  links.Close();
+}
+
+void addAllCategories(Database& database) {
+  addCategories(database, "Course", {mainCourse, soupCourse});
+  addCategories(database, "Health", {commonHealth, frequentHealth, rareHealth});
+  addCategories(database, "Other", {frequentOther, rareOther});
+  linkRecipes(database, "Health", 1, 50000, 49979687);
+  linkRecipes(database, "Health", 2, 20000, 67867967);
+  linkRecipes(database, "Health", 3, 500, 86028121);
+  linkRecipes(database, "Other", 1, 20000, 122949823);
+  linkRecipes(database, "Other", 2, 500, 141650939);
 }
 
 void setOptions(Database& database) {
@@ -97,7 +147,10 @@ fs::path madeStore(const std::string& folderName, bool withRecipes) {
   Database database = Database::OpenDatabase(unfinished);
   database.setDurability(Database::Durability::AtCheckpoint);
   setOptions(database);
-  if (withRecipes) addRecipes(database);
+  if (withRecipes) {
+    addRecipes(database);
+    addAllCategories(database);
+  }
   database.setDurability(Database::Durability::EachUpdate);
   database.Close();
   fs::rename(unfinished, store);
@@ -107,7 +160,7 @@ fs::path madeStore(const std::string& folderName, bool withRecipes) {
 }  // namespace
 
 fs::path largeStoreFolder() {
-  return madeStore("bench-large", true);
+  return madeStore("bench-cookbook", true);
 }
 fs::path emptyStoreFolder() {
   return madeStore("bench-empty", false);

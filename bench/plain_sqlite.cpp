@@ -15,6 +15,17 @@ void check(int result, int wanted = SQLITE_OK) {
   if (result != wanted) throw std::runtime_error("the plain yardstick failed");
 }
 
+/// Goes through the rows of a statement that gives a title and a meal mark, and resets it.
+long readTitles(sqlite3_stmt* statement) {
+  long sum = 0;
+  while (sqlite3_step(statement) == SQLITE_ROW) {
+    sum += static_cast<long>(std::string(reinterpret_cast<const char*>(sqlite3_column_text(statement, 0))).size());
+    sum += sqlite3_column_int(statement, 1);
+  }
+  check(sqlite3_reset(statement));
+  return sum;
+}
+
 fs::path plainCopy(const fs::path& folder) {
   const fs::path copy = folder / "plain.db";
   if (!fs::exists(copy)) fs::copy_file(folder / storeName, copy);
@@ -40,12 +51,14 @@ PlainSqlite::~PlainSqlite() {
 }
 
 long PlainSqlite::walkTitles() {
-  long sum = 0;
-  while (sqlite3_step(walk_) == SQLITE_ROW) {
-    sum += static_cast<long>(std::string(reinterpret_cast<const char*>(sqlite3_column_text(walk_, 0))).size());
-    sum += sqlite3_column_int(walk_, 1);
-  }
-  check(sqlite3_reset(walk_));
+  return readTitles(walk_);
+}
+
+long PlainSqlite::readAll(const std::string& sql) {
+  sqlite3_stmt* statement = nullptr;
+  check(sqlite3_prepare_v2(connection_, sql.c_str(), -1, &statement, nullptr));
+  const long sum = readTitles(statement);
+  check(sqlite3_finalize(statement));
   return sum;
 }
 

@@ -23,6 +23,10 @@ class PlainSqlite {
   /// Finds a title with a prepared statement; gives its recipe id, -1 for none.
   [[nodiscard]] long findTitle(const std::string& title);
 
+  /// Runs a query text from its preparation to its last row; gives a sum over what it read of the first two columns, a
+  /// text and a number.
+  [[nodiscard]] long readAll(const std::string& sql);
+
  private:
   sqlite3* connection_ = nullptr;
   sqlite3_stmt* walk_ = nullptr;
