@@ -49,7 +49,12 @@ static_assert(std::ranges::is_sorted(folds, {}, &Fold::from));
 /// The text as the collator is to see it: folded, and without its trailing blanks.
 std::u32string folded(std::string_view text) {
   std::u32string result;
+  result.reserve(text.size());
   for (const char32_t point : decodeUtf8(text)) {
+    if (point >= firstPlain && point <= lastPlain) {
+      result += point;
+      continue;
+    }
     const Fold* found = std::ranges::lower_bound(folds, point, {}, &Fold::from);
     if (found != std::end(folds) && found->from == point) {
       result += found->to;
