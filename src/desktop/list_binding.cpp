@@ -29,7 +29,7 @@ class ListBinding : public Binding {
         rows_->showSelection();
         break;
       case Aspect::RowColours:
-        rows_->viewport()->update();
+        rows_->coloursChanged();
         break;
       case Aspect::Scroll:
         rows_->scrollToRow(list_.TopIndex());

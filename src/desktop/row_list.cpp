@@ -28,12 +28,19 @@ RowList::RowList(const ListBox& list, ListActions actions, QWidget* parent)
   setFrameShape(QFrame::NoFrame);
   refresh_.setSingleShot(true);
   refresh_.setInterval(frameTime);
-  QObject::connect(&refresh_, &QTimer::timeout, this, [this] { takeRows(); });
+  QObject::connect(&refresh_, &QTimer::timeout, this, [this] {
+    takeRows();
+    viewport()->update();
+  });
   takeRows();
 }
 
 void RowList::rowsChanged() {
   if (list().ListCount() == 0) toTop_ = true;
+  if (!refresh_.isActive()) refresh_.start();
+}
+
+void RowList::coloursChanged() {
   if (!refresh_.isActive()) refresh_.start();
 }
 

@@ -26,6 +26,8 @@ class RowList : public QListView {
 
   /// The rows have changed; they are taken over soon.
   void rowsChanged();
+  /// Colours of rows have changed; they are painted soon.
+  void coloursChanged();
   /// Takes over changed rows now.
   void takeRows();
   /// Shows the selection of the list, and brings the selected row into sight.

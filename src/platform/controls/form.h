@@ -15,7 +15,7 @@ class FormListener {
   virtual ~FormListener() = default;
   virtual void controlChanged(Control& control, Aspect aspect) = 0;
   virtual void formChanged(Aspect aspect) = 0;
-  /// The focus of the form is on another control now.
+  /// The focus of the form is on another control now, or was given by code to the control that had it.
   virtual void focusChanged() = 0;
   /// The form, or one of its controls, asks to be painted at once.
   virtual void refresh() = 0;

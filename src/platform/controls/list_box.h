@@ -2,20 +2,11 @@
 
 #include <cstdint>
 #include <string>
-#include <vector>
 
 #include "platform/controls/control.h"
+#include "platform/controls/list_rows.h"
 
 namespace pantrigo {
-
-/// Colours of a row, numbers of the sixteen-entry colour table: the text of an ordinary row, and text and ground of a
-/// selected one. A row that was never coloured is dark blue, white on dark blue when selected.
-struct RowColours {
-  std::uint8_t foreColor = 1;
-  std::uint8_t selForeColor = 15;
-  std::uint8_t selBackColor = 1;
-  friend bool operator==(const RowColours&, const RowColours&) = default;
-};
 
 enum class Selection { Single, Multiple };
 
@@ -26,12 +17,12 @@ class ListBox : public Control {
  public:
   ListBox(Holder holder, std::string_view name, Box box, Selection selection = Selection::Single);
 
-  [[nodiscard]] int ListCount() const { return static_cast<int>(rows_.size()); }
+  [[nodiscard]] int ListCount() const { return rows_.count(); }
   /// The text of a row, empty out of range.
   [[nodiscard]] const std::string& List(int row) const;
 
   /// The selected row, -1 for none.
-  [[nodiscard]] int ListIndex() const { return listIndex_; }
+  [[nodiscard]] int ListIndex() const { return rows_.followed(); }
   /// Selects a row by code; -1 selects none and raises nothing. A row out of range counts as -1.
   void setListIndex(int row);
   [[nodiscard]] int Row() const { return row_; }
@@ -70,18 +61,11 @@ class ListBox : public Control {
   Event<> SelChange;
 
  private:
-  struct ListRow {
-    std::string text;
-    RowColours colours;
-    bool selected = false;
-  };
-
-  [[nodiscard]] bool holds(int row) const { return row >= 0 && row < ListCount(); }
   void rowsChanged();
 
-  std::vector<ListRow> rows_;
+  /// The selected row of a list with single selection is the one that is followed.
+  ListRows rows_;
   Selection selection_;
-  int listIndex_ = -1;
   int row_ = -1;
   int topIndex_ = 0;
   int sorted_ = 0;

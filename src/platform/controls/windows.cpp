@@ -94,12 +94,15 @@ void Windows::moveFocus(Control& control) {
 
 void Windows::SetFocus(Control& control) {
   if (!control.form().Visible() || !control.takesFocus() || !control.reachable()) throw RuntimeError(5);
-  if (active_ == &control.form()) {
+  Form& form = control.form();
+  if (active_ == &form) {
+    const bool hadIt = form.focus_ == &control;
     moveFocus(control);
+    if (hadIt && activating_ != &form && form.listener_ != nullptr) form.listener_->focusChanged();
     return;
   }
-  control.form().focus_ = &control;
-  activate(control.form());
+  form.focus_ = &control;
+  activate(form);
 }
 
 void Windows::focusLost(Form& form) {
