@@ -9,7 +9,24 @@ namespace pantrigo {
 
 namespace {
 
+/// A menu entry and a filter's label, either of which opens the dialog of a category kind.
+struct CategoryEntry {
+  MenuEntry FrmBrowse::*entry;
+  Label FrmBrowse::*label;
+  std::string_view kind;
+};
+
+constexpr CategoryEntry categoryEntries[] = {
+    {&FrmBrowse::mnuCategoriesNationality, &FrmBrowse::lblNationality, "Nationality"},
+    {&FrmBrowse::mnuCategoriesCourse, &FrmBrowse::lblCourse, "Course"},
+    {&FrmBrowse::mnuCategoriesCooking, &FrmBrowse::lblCooking, "Cooking"},
+    {&FrmBrowse::mnuCategoriesEase, &FrmBrowse::lblEase, "Ease"},
+    {&FrmBrowse::mnuCategoriesHealth, &FrmBrowse::lblHealth, "Health"},
+    {&FrmBrowse::mnuCategoriesOther, &FrmBrowse::lblOther, "Other"},
+};
+
 constexpr MenuCommand<FrmBrowse> menuCommands[] = {
+    {&FrmBrowse::mnuOptions, [](Run& run) { run.windows.ShowModal(run.frmOptions); }},
     {&FrmBrowse::mnuPrintSetup, [](Run& run) { setUpPrinter(run.frmBrowse.CMDialog1); }},
     {&FrmBrowse::mnuAdd, subOpenBlankDetail},
     {&FrmBrowse::mnuUpdate, subOpenSelected},
@@ -18,6 +35,7 @@ constexpr MenuCommand<FrmBrowse> menuCommands[] = {
     {&FrmBrowse::mnuPrevious, subListPrevious},
     {&FrmBrowse::mnuNext, subListNext},
     {&FrmBrowse::mnuLast, subListLast},
+    {&FrmBrowse::mnuSettings, [](Run& run) { run.windows.ShowModal(run.frmSettings); }},
     {&FrmBrowse::mnuMeal, subListToggleMeal},
     {&FrmBrowse::mnuContents, [](Run& run) { subShowHelp(run, helpContents); }},
     {&FrmBrowse::mnuSearch, [](Run& run) { showHelpSearch(run.frmBrowse.CMDialog1); }},
@@ -54,6 +72,21 @@ void wireList(Run& run) {
   titles.SelChange = [&run] { lstTitles_SelChange(run); };
 }
 
+void showCategories(Run& run, std::string_view kind) {
+  if (run.frmBrowse.mbBusy) return;
+  run.GLOBAL.gCategoryCaller = run.frmBrowse.Name();
+  run.GLOBAL.gCategoryTable = kind;
+  run.windows.ShowModal(run.frmCategory);
+}
+
+void wireCategories(Run& run) {
+  for (const CategoryEntry& category : categoryEntries) {
+    const auto show = [&run, kind = category.kind] { showCategories(run, kind); };
+    (run.frmBrowse.*category.entry).Click = show;
+    (run.frmBrowse.*category.label).Click = show;
+  }
+}
+
 }  // namespace
 
 void wireFrmBrowse(Run& run) {
@@ -64,6 +97,7 @@ void wireFrmBrowse(Run& run) {
   form.KeyPress = [&run](int key) { frmBrowse_KeyPress(run, key); };
   form.Unload = [&run] { frmBrowse_Unload(run); };
   wireList(run);
+  wireCategories(run);
   for (const MenuCommand<FrmBrowse>& command : menuCommands) {
     (form.*command.entry).Click = [&run, routine = command.routine] {
       if (!run.frmBrowse.mbBusy) routine(run);
