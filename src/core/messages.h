@@ -32,7 +32,15 @@ void subSelectRecipe(Run& run);
 void subShowHelp(Run& run, int context);
 
 /// Help contexts by the place they are asked from.
-enum HelpContext : int { helpContents = 0, helpBrowse = 300, helpDetail = 400 };
+enum HelpContext : int {
+  helpContents = 0,
+  helpBrowse = 300,
+  helpSettings = 380,
+  helpDetail = 400,
+  helpIngredient = 410,
+  helpNutrition = 440,
+  helpSource = 450
+};
 
 /// Shows the search of the help by a word, by a form's own dialog.
 void showHelpSearch(CommonDialog& dialog);

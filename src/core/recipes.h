@@ -4,6 +4,7 @@
 #include <string_view>
 
 #include "core/global.h"
+#include "forms/frmNutrition.h"
 
 namespace pantrigo {
 
@@ -14,23 +15,27 @@ namespace pantrigo {
 /// 3021 without a current row.
 bool flipMeal(Global& global);
 
-/// A nutrition value of a recipe: its field, and where it is held for the open recipe.
+/// A nutrition value of a recipe: its field, where it is held for the open recipe, the box that it is typed into, and
+/// whether entering it marks the menu entry. Cholesterol alone does not, though a recipe that is loaded with it is
+/// marked.
 struct NutritionValue {
   std::string_view field;
   float Global::*value;
+  TextBox FrmNutrition::*box;
+  bool marksEntry;
 };
 
-/// The nine values in the order in which they are stored.
+/// The nine values in the order in which they are stored and checked.
 inline constexpr std::array<NutritionValue, 9> nutritionValues{{
-    {"Energy", &Global::gEnergy},
-    {"Protein", &Global::gProtein},
-    {"Cholesterol", &Global::gCholesterol},
-    {"Carbohydrates", &Global::gCarbohydrates},
-    {"Sodium", &Global::gSodium},
-    {"Fibre", &Global::gFibre},
-    {"Calcium", &Global::gCalcium},
-    {"Fat", &Global::gFat},
-    {"Iron", &Global::gIron},
+    {"Energy", &Global::gEnergy, &FrmNutrition::txtEnergy, true},
+    {"Protein", &Global::gProtein, &FrmNutrition::txtProtein, true},
+    {"Cholesterol", &Global::gCholesterol, &FrmNutrition::txtCholesterol, false},
+    {"Carbohydrates", &Global::gCarbohydrates, &FrmNutrition::txtCarbohydrates, true},
+    {"Sodium", &Global::gSodium, &FrmNutrition::txtSodium, true},
+    {"Fibre", &Global::gFibre, &FrmNutrition::txtFibre, true},
+    {"Calcium", &Global::gCalcium, &FrmNutrition::txtCalcium, true},
+    {"Fat", &Global::gFat, &FrmNutrition::txtFat, true},
+    {"Iron", &Global::gIron, &FrmNutrition::txtIron, true},
 }};
 
 }  // namespace pantrigo

@@ -2,8 +2,11 @@
 
 namespace pantrigo {
 
-FrmNutrition::FrmNutrition() : Form("frmNutrition", "Nutrition", 6000, 3000) {
-  sealDesign();
+FrmNutrition::FrmNutrition() : Form("frmNutrition", "Nutrition", 5940, 3195) {
+  setKeyPreview(true);
+  setDefaultButton(cmdOK);
+  setCancelButton(cmdCancel);
+  sealDesign(&txtEnergy);
 }
 
 }  // namespace pantrigo

@@ -2,8 +2,11 @@
 
 namespace pantrigo {
 
-FrmSettings::FrmSettings() : Form("frmSettings", "Settings", 6000, 3000) {
-  sealDesign();
+FrmSettings::FrmSettings() : Form("frmSettings", "Settings", 5940, 1515) {
+  setKeyPreview(true);
+  setDefaultButton(cmdOK);
+  setCancelButton(cmdCancel);
+  sealDesign(&txtSettings);
 }
 
 }  // namespace pantrigo

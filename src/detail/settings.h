@@ -1,0 +1,18 @@
+#pragma once
+
+#include "core/run.h"
+
+namespace pantrigo {
+
+/// Asks for the number of people to cater for; the label beside the number served and the quantities of the recipe on
+/// show follow at once.
+void subEditSettings(Run& run);
+
+// Events of the settings dialog.
+
+void frmSettings_Load(Run& run);
+/// OK stores the number, or refuses it and stays open.
+void storeSettings(Run& run);
+void cancelSettings(Run& run);
+
+}  // namespace pantrigo

@@ -1,0 +1,17 @@
+#pragma once
+
+#include "core/run.h"
+
+namespace pantrigo {
+
+/// Asks for the source of the recipe on show. Refused without a title, and for a recipe that was loaded with a source.
+void subSource(Run& run);
+
+// Events of the source dialog.
+
+void frmSource_Load(Run& run);
+/// OK takes the text without the blanks around it.
+void takeSource(Run& run);
+void cancelSource(Run& run);
+
+}  // namespace pantrigo
