@@ -3,6 +3,8 @@
 #include "detail/detail_window.h"
 #include "detail/find_recipe.h"
 #include "detail/navigation.h"
+#include "detail/settings.h"
+#include "detail/source.h"
 #include "detail/toggle_meal.h"
 #include "program/wire_commands.h"
 #include "program/wiring.h"
@@ -20,8 +22,11 @@ constexpr MenuCommand<FrmDetail> menuCommands[] = {
     {&FrmDetail::mnuPrevious, subPreviousRecipe},
     {&FrmDetail::mnuNext, subNextRecipe},
     {&FrmDetail::mnuLast, subLastRecipe},
+    {&FrmDetail::mnuSettings, subEditSettings},
+    {&FrmDetail::mnuNutrition, [](Run& run) { run.windows.ShowModal(run.frmNutrition); }},
     {&FrmDetail::mnuMeal, subToggleMeal},
     {&FrmDetail::mnuOven, [](Run& run) { run.windows.ShowModal(run.frmOven); }},
+    {&FrmDetail::mnuSource, subSource},
     {&FrmDetail::mnuContents, [](Run& run) { subShowHelp(run, helpContents); }},
     {&FrmDetail::mnuSearch, [](Run& run) { showHelpSearch(run.frmDetail.CMDialog1); }},
     {&FrmDetail::mnuAbout, [](Run& run) { run.windows.ShowModal(run.frmAbout); }},
@@ -64,6 +69,8 @@ void wireFrmDetail(Run& run) {
   form.KeyDown = [&run](int key) { frmDetail_KeyDown(run, key); };
   form.KeyPress = [&run](int key) { frmDetail_KeyPress(run, key); };
   form.CloseMark = [&run] { leaveDetail(run); };
+  form.lblSettings.Click = [&run] { subEditSettings(run); };
+  form.fmeTitle.Click = [&run] { subSource(run); };
   wireChanges(run);
   for (const MenuCommand<FrmDetail>& command : menuCommands) {
     (form.*command.entry).Click = [&run, routine = command.routine] { routine(run); };
