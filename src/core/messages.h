@@ -35,6 +35,7 @@ void subShowHelp(Run& run, int context);
 enum HelpContext : int {
   helpContents = 0,
   helpBrowse = 300,
+  helpView = 375,
   helpSettings = 380,
   helpDetail = 400,
   helpIngredient = 410,

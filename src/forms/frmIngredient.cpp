@@ -2,8 +2,11 @@
 
 namespace pantrigo {
 
-FrmIngredient::FrmIngredient() : Form("frmIngredient", "Ingredient", 6000, 3000) {
-  sealDesign();
+FrmIngredient::FrmIngredient() : Form("frmIngredient", "Ingredient", 9300, 2415) {
+  setKeyPreview(true);
+  setDefaultButton(cmdAdd);
+  setCancelButton(cmdCancel);
+  sealDesign(&txtQuantity);
 }
 
 }  // namespace pantrigo

@@ -2,6 +2,7 @@
 #include "detail/change_tracking.h"
 #include "detail/detail_window.h"
 #include "detail/find_recipe.h"
+#include "detail/ingredient_list.h"
 #include "detail/navigation.h"
 #include "detail/settings.h"
 #include "detail/source.h"
@@ -60,6 +61,13 @@ void wireChanges(Run& run) {
   form.lblServes.Click = [&run] { lblServes_Click(run); };
 }
 
+void wireIngredients(Run& run) {
+  ListBox& list = run.frmDetail.lstIngredient;
+  list.Click = [&run] { lstIngredient_Click(run); };
+  list.GotFocus = [&run] { lstIngredient_GotFocus(run); };
+  list.MouseDown = [&run](int) { lstIngredient_MouseDown(run); };
+}
+
 }  // namespace
 
 void wireFrmDetail(Run& run) {
@@ -72,6 +80,7 @@ void wireFrmDetail(Run& run) {
   form.lblSettings.Click = [&run] { subEditSettings(run); };
   form.fmeTitle.Click = [&run] { subSource(run); };
   wireChanges(run);
+  wireIngredients(run);
   for (const MenuCommand<FrmDetail>& command : menuCommands) {
     (form.*command.entry).Click = [&run, routine = command.routine] { routine(run); };
   }
