@@ -5,6 +5,7 @@
 #include <QElapsedTimer>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QLineEdit>
 #include <QMenuBar>
 #include <QScopedValueRollback>
 #include <QVBoxLayout>
@@ -100,7 +101,7 @@ FormView::FormView(Form& form, ViewHost& host)
   }
   showPointer();
   form.setListener(this);
-  focusChanged();
+  showFocus();
 }
 
 FormView::~FormView() {
@@ -271,7 +272,7 @@ void FormView::controlChanged(Control& control, Aspect aspect) {
       found->second->changed(aspect);
   }
   if (aspect == Aspect::Caption) nameControls();
-  if (aspect == Aspect::Visible || aspect == Aspect::Enabled) focusChanged();
+  if (aspect == Aspect::Visible || aspect == Aspect::Enabled) showFocus();
 }
 
 void FormView::formChanged(Aspect aspect) {
@@ -289,6 +290,13 @@ void FormView::showPointer() {
 }
 
 void FormView::focusChanged() {
+  showFocus();
+  if (isMainWindow() || form_.ActiveControl() == nullptr) return;
+  // What a dialog asks for again, as after a refused entry, is there to be typed over.
+  if (auto* box = qobject_cast<QLineEdit*>(widgetOf(*form_.ActiveControl()))) box->selectAll();
+}
+
+void FormView::showFocus() {
   const QScopedValueRollback guard(changing_, changing_ + 1);
   QWidget* wanted = form_.ActiveControl() == nullptr ? nullptr : widgetOf(*form_.ActiveControl());
   if (wanted != nullptr && focusWidget() != wanted) wanted->setFocus(Qt::OtherFocusReason);

@@ -65,6 +65,7 @@ class FormView : public QWidget, private FormListener {
   /// The scale that the window has now, 1 at the design's size.
   [[nodiscard]] double presentScale() const;
   void showPointer();
+  void showFocus();
   void takeFocus(const Binding& binding, const QFocusEvent& event);
   /// Gives whether the key has been used up.
   bool takeKey(const QKeyEvent& event);

@@ -1,3 +1,4 @@
+#include <QLayout>
 #include <QPainter>
 #include <QWidget>
 #include <algorithm>
@@ -47,12 +48,16 @@ class CardWidget : public QWidget {
     painter.setFont(bold);
     painter.setPen(isEnabled() ? hue::text : hue::disabledText);
     const QFontMetrics metrics(bold);
-    const QRect band(indent_, 0, width() - 2 * indent_, std::max(band_, metrics.height()));
+    const QRect band(indent(), 0, width() - 2 * indent(), std::max(bandHeight(), metrics.height()));
     painter.drawText(band, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine,
                      metrics.elidedText(caption_, Qt::ElideRight, band.width()));
   }
 
  private:
+  // In a layout the caption stands in the top margin, flush with the contents.
+  [[nodiscard]] int indent() const { return layout() == nullptr ? indent_ : layout()->contentsMargins().left(); }
+  [[nodiscard]] int bandHeight() const { return layout() == nullptr ? band_ : layout()->contentsMargins().top(); }
+
   QString caption_;
   int indent_ = 0;
   int band_ = 0;

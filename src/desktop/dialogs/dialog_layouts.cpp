@@ -12,8 +12,8 @@ struct DialogLayout {
 };
 
 constexpr DialogLayout layouts[] = {
-    {"frmAbout", layOutAbout},
-    {"frmOven", layOutOven},
+    {"frmAbout", layOutAbout},       {"frmNutrition", layOutNutrition}, {"frmOven", layOutOven},
+    {"frmSettings", layOutSettings}, {"frmSource", layOutSource},
 };
 
 }  // namespace
