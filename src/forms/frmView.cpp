@@ -2,8 +2,9 @@
 
 namespace pantrigo {
 
-FrmView::FrmView() : Form("frmView", "View", 6000, 3000) {
-  sealDesign();
+FrmView::FrmView() : Form("frmView", "View / Print Import Log", 8400, 5415) {
+  setCancelButton(cmdCancel);
+  sealDesign(&lstView);
 }
 
 }  // namespace pantrigo

@@ -1,4 +1,5 @@
 #include "browse/browse_window.h"
+#include "browse/last_import.h"
 #include "browse/recipe_commands.h"
 #include "browse/title_list.h"
 #include "core/messages.h"
@@ -28,6 +29,7 @@ constexpr CategoryEntry categoryEntries[] = {
 constexpr MenuCommand<FrmBrowse> menuCommands[] = {
     {&FrmBrowse::mnuOptions, [](Run& run) { run.windows.ShowModal(run.frmOptions); }},
     {&FrmBrowse::mnuPrintSetup, [](Run& run) { setUpPrinter(run.frmBrowse.CMDialog1); }},
+    {&FrmBrowse::mnuViewImportLog, showImportLog},
     {&FrmBrowse::mnuAdd, subOpenBlankDetail},
     {&FrmBrowse::mnuUpdate, subOpenSelected},
     {&FrmBrowse::mnuDelete, subDeleteSelected},
