@@ -10,6 +10,7 @@
 #include <cmath>
 
 #include "desktop/text_conversion.h"
+#include "platform/text/errors.h"
 
 namespace pantrigo {
 
@@ -68,8 +69,11 @@ double QtPrinter::lineHeight() const {
 
 void QtPrinter::makeRoom() {
   if (pageOpen_ && y_ + lineHeight() > pageSize().height()) NewPage();
-  if (pageOpen_) return;
-  pages_.emplace_back();
+  openPage();
+}
+
+void QtPrinter::openPage() {
+  if (!pageOpen_) pages_.emplace_back();
   pageOpen_ = true;
 }
 
@@ -91,7 +95,7 @@ void QtPrinter::space(int count) {
 void QtPrinter::print(std::string_view text) {
   makeRoom();
   const QString piece = toQt(text);
-  if (!piece.trimmed().isEmpty()) pages_.back().push_back({x_, y_, piece, font_});
+  if (!piece.trimmed().isEmpty()) pages_.back().texts.push_back({x_, y_, piece, font_});
   x_ += QFontMetricsF(font_).horizontalAdvance(piece);
 }
 
@@ -103,6 +107,16 @@ void QtPrinter::endLine() {
 
 void QtPrinter::setCurrentY(double twips) {
   y_ = twips;
+}
+
+void QtPrinter::PaintPicture(const PrintPicture& picture, const PrintArea& area) {
+  constexpr int invalidPicture = 481;
+  const std::string_view bytes = picture.bytes == nullptr ? std::string_view() : *picture.bytes;
+  const QImage image = QImage::fromData(QByteArray(bytes.data(), static_cast<qsizetype>(bytes.size())), "bmp");
+  if (image.isNull()) throw RuntimeError(invalidPicture);
+  openPage();
+  const double left = std::max(0.0, std::min(area.x, pageSize().width() - area.width));
+  pages_.back().pictures.push_back({QRectF(left, area.y, area.width, area.height), image});
 }
 
 void QtPrinter::NewPage() {
@@ -120,6 +134,15 @@ void QtPrinter::EndDoc() {
   y_ = 0;
 }
 
+void QtPrinter::paintPage(QPainter& painter, const PrintedPage& page) {
+  painter.setRenderHint(QPainter::SmoothPixmapTransform);
+  for (const PaintedPicture& picture : page.pictures) painter.drawImage(picture.place, picture.image);
+  for (const PrintedText& piece : page.texts) {
+    painter.setFont(piece.font);
+    painter.drawText(QPointF(piece.x, piece.y + QFontMetricsF(piece.font).ascent()), piece.text);
+  }
+}
+
 void QtPrinter::paint() {
   const bool toFreeFile = QPrinterInfo::availablePrinterNames().isEmpty() && device_.outputFileName().isEmpty();
   if (toFreeFile) {
@@ -131,10 +154,7 @@ void QtPrinter::paint() {
   painter.scale(scale, scale);
   for (std::size_t page = 0; page < pages_.size(); ++page) {
     if (page > 0) device_.newPage();
-    for (const PrintedText& piece : pages_[page]) {
-      painter.setFont(piece.font);
-      painter.drawText(QPointF(piece.x, piece.y + QFontMetricsF(piece.font).ascent()), piece.text);
-    }
+    paintPage(painter, pages_[page]);
   }
   painter.end();
   if (!toFreeFile) return;

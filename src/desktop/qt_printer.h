@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QFont>
+#include <QImage>
 #include <QPrinter>
 #include <QString>
 #include <functional>
@@ -18,6 +19,17 @@ struct PrintedText {
   QFont font;
 };
 
+/// A picture on a page, with its place there in twips.
+struct PaintedPicture {
+  QRectF place;
+  QImage image;
+};
+
+struct PrintedPage {
+  std::vector<PrintedText> texts;
+  std::vector<PaintedPicture> pictures;
+};
+
 /// The printer object over a real printer, or over a PDF file when there is none. The pages are laid out first, in
 /// twips, and painted when the document ends.
 class QtPrinter : public Printer {
@@ -31,7 +43,7 @@ class QtPrinter : public Printer {
   std::function<void(const QString& file)> whenPrintedToFile;
 
   /// The pages of the open document.
-  [[nodiscard]] const std::vector<std::vector<PrintedText>>& pages() const { return pages_; }
+  [[nodiscard]] const std::vector<PrintedPage>& pages() const { return pages_; }
 
   void setFontSize(double points) override;
   void setFontBold(bool bold) override;
@@ -41,6 +53,8 @@ class QtPrinter : public Printer {
   void endLine() override;
   [[nodiscard]] double currentY() const override { return y_; }
   void setCurrentY(double twips) override;
+  /// A picture that would lie beyond the right margin is moved to it.
+  void PaintPicture(const PrintPicture& picture, const PrintArea& area) override;
   void NewPage() override;
   void EndDoc() override;
 
@@ -49,11 +63,13 @@ class QtPrinter : public Printer {
   [[nodiscard]] double columnWidth() const;
   [[nodiscard]] double lineHeight() const;
   void makeRoom();
+  void openPage();
   void paint();
+  static void paintPage(QPainter& painter, const PrintedPage& page);
 
   QPrinter device_;
   QFont font_;
-  std::vector<std::vector<PrintedText>> pages_;
+  std::vector<PrintedPage> pages_;
   double x_ = 0;
   double y_ = 0;
   bool pageOpen_ = false;

@@ -10,7 +10,6 @@
 #include "desktop/accessible_names.h"
 #include "desktop/look.h"
 #include "desktop/menu_tree.h"
-#include "desktop/qt_printer.h"
 #include "desktop/qt_toolkit.h"
 #include "desktop/row_list.h"
 #include "desktop/screen_area.h"
@@ -142,59 +141,6 @@ TEST(RowListTest, AHundredThousandRowsComeAndScrollAtOnce) {
   view.grab();
   EXPECT_LT(time.elapsed(), 500);
   EXPECT_EQ(view.indexAt(QPoint(5, view.viewport()->height() - 3)).row(), 100000);
-}
-
-class PrinterTest : public testing::Test {
- protected:
-  void SetUp() override {
-    ASSERT_TRUE(folder.isValid());
-    printer.device().setOutputFormat(QPrinter::PdfFormat);
-    printer.device().setOutputFileName(file);
-  }
-  QTemporaryDir folder;
-  QString file = folder.filePath("print.pdf");
-  QtPrinter printer;
-};
-
-TEST_F(PrinterTest, EightyCharactersFitBothPapers) {
-  for (const QPageSize::PageSizeId paper : {QPageSize::A4, QPageSize::Letter}) {
-    printer.device().setPageSize(QPageSize(paper));
-    const std::string line = "The quick brown fox jumps over the lazy dog, and then it goes home to its den...";
-    ASSERT_EQ(line.size(), 80u);
-    printer.print(line);
-    const PrintedText& piece = printer.pages().back().back();
-    const double paperWidth = printer.device().pageLayout().paintRect(QPageLayout::Inch).width() * 1440;
-    EXPECT_LT(piece.x + QFontMetricsF(piece.font).horizontalAdvance(piece.text), paperWidth);
-    printer.endLine();
-  }
-}
-
-TEST_F(PrinterTest, ATabBehindThePositionGoesToTheNextLine) {
-  printer.print("A long beginning of a line");
-  printer.tab(3);
-  printer.print("x");
-  const auto& page = printer.pages().back();
-  EXPECT_GT(page[1].y, page[0].y);
-  EXPECT_GT(page[1].x, 0);
-  printer.tab(40);
-  printer.print("y");
-  EXPECT_EQ(page.back().y, page[1].y);
-}
-
-TEST_F(PrinterTest, AFullPageIsFollowedByAnother) {
-  for (int line = 0; line < 100; ++line) {
-    printer.print("line");
-    printer.endLine();
-  }
-  EXPECT_EQ(printer.pages().size(), 2u);
-  printer.EndDoc();
-  EXPECT_TRUE(printer.pages().empty());
-  EXPECT_TRUE(QFile::exists(file));
-}
-
-TEST_F(PrinterTest, NothingPrintedMakesNoFile) {
-  printer.EndDoc();
-  EXPECT_FALSE(QFile::exists(file));
 }
 
 TEST(LoadPicture, TellsAMissingFileFromOneThatIsNoBitmap) {

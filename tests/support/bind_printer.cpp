@@ -20,6 +20,23 @@ int lines(lua_State* lua, ScenarioCase& scenario) {
   return 1;
 }
 
+int pictures(lua_State* lua, ScenarioCase& scenario) {
+  lua_newtable(lua);
+  lua_Integer place = 0;
+  for (const PrintedPicture& picture : scenario.toolkit().recorder().takePictures()) {
+    lua_createtable(lua, 0, 7);
+    setField(lua, "file", picture.file);
+    setField(lua, "x", picture.area.x);
+    setField(lua, "y", picture.area.y);
+    setField(lua, "width", picture.area.width);
+    setField(lua, "height", picture.area.height);
+    setField(lua, "page", picture.page);
+    setField(lua, "job", picture.job);
+    lua_rawseti(lua, -2, ++place);
+  }
+  return 1;
+}
+
 int jobs(lua_State* lua, ScenarioCase& scenario) {
   lua_pushinteger(lua, scenario.toolkit().recorder().jobs());
   return 1;
@@ -31,7 +48,10 @@ int open(lua_State* lua, ScenarioCase& scenario) {
 }
 
 constexpr luaL_Reg words[] = {
-    {"lines", withinCase<lines>}, {"jobs", withinCase<jobs>}, {"open", withinCase<open>}, {nullptr, nullptr}};
+    {"lines", withinCase<lines>}, {"pictures", withinCase<pictures>},
+    {"jobs", withinCase<jobs>},   {"open", withinCase<open>},
+    {nullptr, nullptr},
+};
 
 }  // namespace
 

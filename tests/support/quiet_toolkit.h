@@ -32,6 +32,7 @@ class LineKeeper : public Printer {
   void endLine() override { lines.push_back(std::exchange(line_, {})); }
   [[nodiscard]] double currentY() const override { return 0; }
   void setCurrentY(double) override {}
+  void PaintPicture(const PrintPicture& picture, const PrintArea&) override { pictures.push_back(picture.file); }
   void NewPage() override {}
   void EndDoc() override {}
 
@@ -39,6 +40,8 @@ class LineKeeper : public Printer {
   void refuse(int texts) { refused_ = texts; }
 
   std::vector<std::string> lines;
+  /// The names of the files of drawn pictures.
+  std::vector<std::string> pictures;
 
  private:
   static constexpr int printerError = 482;

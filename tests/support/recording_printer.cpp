@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "platform/text/errors.h"
 #include "platform/text/utf8.h"
 
 namespace pantrigo {
@@ -48,6 +49,13 @@ void RecordingPrinter::endLine() {
   y_ += fontSize_ * lineHeightPerPoint;
 }
 
+void RecordingPrinter::PaintPicture(const PrintPicture& picture, const PrintArea& area) {
+  constexpr int invalidPicture = 481;
+  if (picture.bytes == nullptr) throw RuntimeError(invalidPicture);
+  pictures_.push_back({picture.file, area, page_, jobs_ + 1});
+  open_ = true;
+}
+
 void RecordingPrinter::NewPage() {
   if (lineOpen_) endLine();
   open_ = true;
@@ -66,6 +74,10 @@ void RecordingPrinter::EndDoc() {
 
 std::vector<PrintedLine> RecordingPrinter::takeLines() {
   return std::exchange(lines_, {});
+}
+
+std::vector<PrintedPicture> RecordingPrinter::takePictures() {
+  return std::exchange(pictures_, {});
 }
 
 }  // namespace pantrigo

@@ -17,6 +17,14 @@ struct PrintedLine {
   int job = 1;
 };
 
+/// A printed picture: the name of its file, its place and size in twips. Pages and jobs count from 1.
+struct PrintedPicture {
+  std::string file;
+  PrintArea area;
+  int page = 1;
+  int job = 1;
+};
+
 /// A printer that keeps what is printed. Its paper has no end: a page ends by `NewPage` alone, so that no scenario
 /// depends on a length of paper.
 class RecordingPrinter : public Printer {
@@ -29,11 +37,14 @@ class RecordingPrinter : public Printer {
   void endLine() override;
   [[nodiscard]] double currentY() const override { return y_; }
   void setCurrentY(double twips) override { y_ = twips; }
+  void PaintPicture(const PrintPicture& picture, const PrintArea& area) override;
   void NewPage() override;
   void EndDoc() override;
 
   /// The lines ended since the last call.
   [[nodiscard]] std::vector<PrintedLine> takeLines();
+  /// The pictures drawn since the last call.
+  [[nodiscard]] std::vector<PrintedPicture> takePictures();
   /// Number of ended documents.
   [[nodiscard]] int jobs() const { return jobs_; }
   /// Whether something was printed that no `EndDoc` has sent yet.
@@ -43,6 +54,7 @@ class RecordingPrinter : public Printer {
   void append(std::string_view text);
 
   std::vector<PrintedLine> lines_;
+  std::vector<PrintedPicture> pictures_;
   PrintedLine line_;
   bool lineOpen_ = false;
   bool open_ = false;

@@ -22,6 +22,12 @@ case("lines come in order with their columns, once", function()
   equal(printer.lines(), {})
 end)
 
+case("nothing drawn is no picture", function()
+  begin()
+  print_rows({ "", "", "apples", "", "2", "" })
+  equal(printer.pictures(), {})
+end)
+
 case("a job stays open until its document ends, at the latest with the program", function()
   begin()
   equal(printer.open(), false)

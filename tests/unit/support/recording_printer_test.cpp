@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include "platform/text/errors.h"
+
 namespace pantrigo {
 namespace {
 
@@ -93,6 +95,37 @@ TEST(RecordingPrinter, LinesMoveDownThePage) {
   EXPECT_EQ(printer.currentY(), 3240);
   printer.NewPage();
   EXPECT_EQ(printer.currentY(), 0);
+}
+
+TEST(RecordingPrinter, KeepsPicturesWithTheirPlaces) {
+  RecordingPrinter printer;
+  const PrintPicture picture{"12.BMP", std::make_shared<const std::string>("bytes")};
+  printer.PaintPicture(picture, {4590, 288, 2715, 2970});
+  EXPECT_TRUE(printer.open());
+  printer.NewPage();
+  printer.PaintPicture(picture, {6190, 0, 2715, 2970});
+  printer.EndDoc();
+  EXPECT_EQ(printer.jobs(), 1);
+  printer.PaintPicture(picture, {1, 2, 3, 4});
+  const std::vector<PrintedPicture> pictures = printer.takePictures();
+  ASSERT_EQ(pictures.size(), 3u);
+  EXPECT_EQ(pictures[0].file, "12.BMP");
+  EXPECT_EQ(pictures[0].area.x, 4590);
+  EXPECT_EQ(pictures[0].area.y, 288);
+  EXPECT_EQ(pictures[0].area.width, 2715);
+  EXPECT_EQ(pictures[0].area.height, 2970);
+  EXPECT_EQ(pictures[0].page, 1);
+  EXPECT_EQ(pictures[1].page, 2);
+  EXPECT_EQ(pictures[1].job, 1);
+  EXPECT_EQ(pictures[2].job, 2);
+  EXPECT_TRUE(printer.takePictures().empty());
+}
+
+TEST(RecordingPrinter, RefusesWhatIsNoPicture) {
+  RecordingPrinter printer;
+  EXPECT_THROW(printer.PaintPicture({"12.BMP", nullptr}, {}), RuntimeError);
+  EXPECT_FALSE(printer.open());
+  EXPECT_TRUE(printer.takePictures().empty());
 }
 
 }  // namespace
