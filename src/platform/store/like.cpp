@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <optional>
 #include <string>
 
 #include "platform/store/store_errors.h"
@@ -88,6 +89,19 @@ LikePattern::LikePattern(std::string_view pattern) : pieces_(1) {
       pieces_.back().push_back({Element::Kind::Character, character});
     }
   }
+  findPlainRuns();
+}
+
+void LikePattern::findPlainRuns() {
+  for (const Piece& piece : pieces_) {
+    std::u32string characters;
+    for (const Element& element : piece) {
+      if (element.kind == Element::Kind::Character) characters.push_back(element.character);
+    }
+    std::optional<PlainRun> run = PlainRun::make(characters);
+    if (!run || characters.size() != piece.size()) return plainRuns_.clear();
+    plainRuns_.push_back(std::move(*run));
+  }
 }
 
 void LikePattern::addList(std::u32string_view list) {
@@ -165,7 +179,25 @@ bool LikePattern::matchesWhole(const Text& characters) const {
   return true;
 }
 
+bool LikePattern::matchesPlain(std::string_view text) const {
+  constexpr std::size_t npos = std::string_view::npos;
+  const std::size_t begin = plainRuns_.front().endFrom(text, 0);
+  if (plainRuns_.size() == 1 || begin == npos) return begin == text.size();
+  const std::size_t end = plainRuns_.back().beginBefore(text, text.size());
+  if (end == npos || end < begin) return false;
+  const std::string_view middle = text.substr(0, end);
+  // Each run in between takes its first place: a later one could only leave less room.
+  std::size_t place = begin;
+  for (std::size_t number = 1; number + 1 < plainRuns_.size(); ++number) {
+    const std::optional<PlainRun::Span> found = plainRuns_[number].find(middle, place);
+    if (!found) return false;
+    place = found->end;
+  }
+  return true;
+}
+
 bool LikePattern::matches(std::string_view text) const {
+  if (!plainRuns_.empty()) return matchesPlain(text);
   return isAllAscii(text) ? matchesWhole(AsciiText(text)) : matchesWhole(folded(text));
 }
 

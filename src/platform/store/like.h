@@ -4,6 +4,8 @@
 #include <string_view>
 #include <vector>
 
+#include "platform/store/plain_run.h"
+
 namespace pantrigo {
 
 /// A pattern of the store's `like`: "*" stands for any run of characters, "?" for one character, "#" for one digit,
@@ -32,6 +34,8 @@ class LikePattern {
 
   using Piece = std::vector<Element>;
 
+  void findPlainRuns();
+  [[nodiscard]] bool matchesPlain(std::string_view text) const;
   void addList(std::u32string_view list);
   static bool fits(const Element& element, char32_t character);
   // A text here is anything that gives its folded characters by their places.
@@ -44,6 +48,8 @@ class LikePattern {
 
   /// The parts between the "*"; a pattern without any has one.
   std::vector<Piece> pieces_;
+  /// The same parts, when all of them are plain characters, which is what people seek.
+  std::vector<PlainRun> plainRuns_;
 };
 
 }  // namespace pantrigo

@@ -1,7 +1,12 @@
 #include "platform/store/query.h"
 
+#include <algorithm>
+
+#include "platform/store/distinct_cursor.h"
 #include "platform/store/field_values.h"
+#include "platform/store/names.h"
 #include "platform/store/query_cursors.h"
+#include "platform/store/row_search.h"
 #include "platform/store/sql_generator.h"
 #include "platform/store/sql_lexer.h"
 #include "platform/store/sql_parser.h"
@@ -36,12 +41,58 @@ PackedRows readRows(Statement& statement, const std::vector<FieldDescription>& f
   return rows;
 }
 
+/// Which of the memberships has the fewest rows. They are counted together up to a limit that grows, so that the work
+/// goes by the smallest.
+std::size_t smallestMembership(Connection& connection, const std::vector<Membership>& memberships) {
+  constexpr long firstLimit = 64;
+  constexpr long limitGrowth = 8;
+  if (memberships.size() < 2) return 0;
+  for (long limit = firstLimit;; limit *= limitGrowth) {
+    long smallest = limit;
+    std::size_t chosen = 0;
+    for (std::size_t place = 0; place < memberships.size(); ++place) {
+      const EngineText text = membershipSizeText(memberships[place]);
+      Running statement(connection.queryStatement(text.sql));
+      text.bindTo(*statement);
+      long rows = 0;
+      while (rows < smallest && statement->step()) ++rows;
+      if (rows < smallest) chosen = place;
+      smallest = rows;
+    }
+    if (smallest < limit) return chosen;
+  }
+}
+
+std::vector<std::int64_t> findRows(Connection& connection, const RowSearch& search) {
+  const EngineText text = rowSearchText(search, smallestMembership(connection, search.memberships));
+  Running statement(connection.queryStatement(text.sql));
+  text.bindTo(*statement);
+  return readRowNumbers(*statement);
+}
+
+/// The index that holds all fields of a result and puts them in order; null when there is none.
+const IndexDescription* orderOf(const TableDescription& table, const std::vector<FieldDescription>& fields) {
+  const auto found = std::ranges::find_if(table.indexes, [&](const IndexDescription& index) {
+    const bool isWhole = fields.size() == 1 || (fields.size() == 2 && isSameName(fields[1].name, index.carried));
+    return isWhole && index.keyFields[1].empty() && isSameName(fields[0].name, index.keyFields[0]);
+  });
+  return found == table.indexes.end() ? nullptr : &*found;
+}
+
 }  // namespace
 
 std::shared_ptr<Cursor> openQuery(const std::shared_ptr<Database::State>& state, std::string_view sql) {
   refuseUnknownTable(sql);
-  EngineQuery query = generateQuery(parseSelect(sql));
-  Running statement(state->connection().queryStatement(query.text.sql));
+  Connection& connection = state->connection();
+  SqlSelect select = parseSelect(sql);
+  EngineQuery query = generateQuery(select);
+  if (const auto search = makeRowSearch(std::move(select))) {
+    if (const IndexDescription* index = orderOf(*search->table, query.fields)) {
+      return std::make_shared<DistinctCursor>(state, *search->table, *index, std::move(query.fields),
+                                              findRows(connection, *search));
+    }
+  }
+  Running statement(connection.queryStatement(query.text.sql));
   query.text.bindTo(*statement);
   if (query.rowsOf != nullptr) {
     return std::make_shared<RowsCursor>(state, *query.rowsOf, std::move(query.fields), readRowNumbers(*statement));

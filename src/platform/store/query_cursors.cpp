@@ -49,26 +49,28 @@ bool QueryCursor::noMatch() const {
 
 bool QueryCursor::eof() {
   requireOpen();
-  return row_ >= rowCount_;
+  return isAtEnd();
 }
 
 void QueryCursor::moveNext() {
   if (eof()) throw RuntimeError(store_error::noCurrentRecord);
-  ++row_;
-  reached_ = std::max(reached_, row_ + 1);
+  ++passed_;
+  reached_ = std::max(reached_, passed_);
+  step();
 }
 
 void QueryCursor::moveFirst() {
   requireOpen();
-  row_ = 0;
+  passed_ = 0;
+  restart();
 }
 
 const Value& QueryCursor::field(std::string_view name) {
   requireOpen();
   const auto found = std::ranges::find_if(fields_, [name](const auto& field) { return isSameName(field.name, name); });
   if (found == fields_.end()) throw RuntimeError(store_error::noSuchField);
-  if (row_ >= rowCount_) throw RuntimeError(store_error::noCurrentRecord);
-  return read(row_, static_cast<std::size_t>(found - fields_.begin()));
+  if (isAtEnd()) throw RuntimeError(store_error::noCurrentRecord);
+  return read(static_cast<std::size_t>(found - fields_.begin()));
 }
 
 void QueryCursor::setField(std::string_view, const Value&) {
@@ -98,12 +100,12 @@ void QueryCursor::remove() {
 
 long QueryCursor::recordCount() {
   requireOpen();
-  return static_cast<long>(std::min(reached_, rowCount_));
+  return std::max(reached_, passed_ + (isAtEnd() ? 0 : 1));
 }
 
 RowsCursor::RowsCursor(std::shared_ptr<Database::State> state, const TableDescription& table,
                        std::vector<FieldDescription> fields, std::vector<std::int64_t> rowNumbers)
-    : QueryCursor(std::move(state), std::move(fields), rowNumbers.size()),
+    : CountedCursor(std::move(state), std::move(fields), rowNumbers.size()),
       table_(table),
       rowNumbers_(std::move(rowNumbers)),
       reader_(table),
@@ -111,10 +113,10 @@ RowsCursor::RowsCursor(std::shared_ptr<Database::State> state, const TableDescri
   for (const FieldDescription& field : this->fields()) tableFields_.push_back(findField(table, field.name));
 }
 
-const Value& RowsCursor::read(std::size_t row, std::size_t field) {
-  if (readerRow_ != row) {
-    reader_.place(rowNumbers_[row]);
-    readerRow_ = row;
+const Value& RowsCursor::read(std::size_t field) {
+  if (readerRow_ != row()) {
+    reader_.place(rowNumbers_[row()]);
+    readerRow_ = row();
   }
   return reader_.field(state().access(table_), tableFields_[field]);
 }
@@ -162,15 +164,15 @@ void PackedRows::read(std::size_t row, std::vector<Value>& values) const {
 
 ResultCursor::ResultCursor(std::shared_ptr<Database::State> state, std::vector<FieldDescription> fields,
                            PackedRows rows)
-    : QueryCursor(std::move(state), std::move(fields), rows.size()),
+    : CountedCursor(std::move(state), std::move(fields), rows.size()),
       rows_(std::move(rows)),
       unpackedRow_(noRow),
       values_(this->fields().size()) {}
 
-const Value& ResultCursor::read(std::size_t row, std::size_t field) {
-  if (unpackedRow_ != row) {
-    rows_.read(row, values_);
-    unpackedRow_ = row;
+const Value& ResultCursor::read(std::size_t field) {
+  if (unpackedRow_ != row()) {
+    rows_.read(row(), values_);
+    unpackedRow_ = row();
   }
   return values_[field];
 }

@@ -1,27 +1,13 @@
 #pragma once
 
-#include <memory>
 #include <string>
-#include <variant>
 #include <vector>
 
-#include "platform/store/connection.h"
-#include "platform/store/like.h"
 #include "platform/store/schema.h"
+#include "platform/store/sql_conditions.h"
 #include "platform/store/sql_syntax.h"
 
 namespace pantrigo {
-
-/// A text for the engine, with what is to be bound to its parameters in order.
-struct EngineText {
-  using Parameter = std::variant<double, std::string, std::unique_ptr<LikePattern>>;
-
-  std::string sql;
-  std::vector<Parameter> parameters;
-
-  /// The text has to live until the statement is reset.
-  void bindTo(Statement& statement) const;
-};
 
 /// A query as the engine runs it.
 struct EngineQuery {

@@ -60,18 +60,18 @@ FieldSet TableAccess::read(std::int64_t rowNumber, int field, std::vector<Value>
   return read;
 }
 
-std::int64_t TableAccess::nextRowNumber() {
+std::int64_t TableAccess::highestRowNumber() {
   if (!lastRowNumber_) {
     Statement highest(connection_.handle(),
                       std::string("SELECT max(") + rowNumberColumn + ") FROM " + std::string(table_.name));
     lastRowNumber_ = highest.step() ? highest.whole(0) : 0;
   }
-  return *lastRowNumber_ + 1;
+  return *lastRowNumber_;
 }
 
 void TableAccess::insert(const std::vector<Value>& values) {
   connection_.requireWritable();
-  const std::int64_t rowNumber = nextRowNumber();
+  const std::int64_t rowNumber = highestRowNumber() + 1;
   if (insert_ == nullptr) insert_ = &connection_.statement(insertText(table_));
   Running statement(*insert_);
   statement->bindWhole(1, rowNumber);

@@ -33,7 +33,7 @@ class TableAccess {
 
   [[nodiscard]] std::uint64_t changeNumber() const { return changeNumber_; }
   /// To be called around every change of the table's rows that is not made by this object.
-  void beforeRemoval() { static_cast<void>(nextRowNumber()); }
+  void beforeRemoval() { static_cast<void>(highestRowNumber()); }
   void noteChange() { ++changeNumber_; }
 
   /// Reads a field into its place among `values`, and its neighbours with it: all fields but the memos come together,
@@ -47,19 +47,20 @@ class TableAccess {
   /// False when the row is gone already. Error 3027.
   [[nodiscard]] bool remove(std::int64_t rowNumber);
   [[nodiscard]] long countRows();
+  /// The highest row number that was ever in use while the store is open; 0 when none was.
+  [[nodiscard]] std::int64_t highestRowNumber();
 
  private:
   [[nodiscard]] Statement& readStatement(int field);
   [[nodiscard]] Statement& writeStatement(FieldSet fields);
-  [[nodiscard]] std::int64_t nextRowNumber();
 
   Connection& connection_;
   const TableDescription& table_;
   /// Physical order, then the indexes.
   std::vector<std::unique_ptr<WalkOrder>> orders_;
   std::uint64_t changeNumber_ = 1;
-  /// The highest row number that was ever in use while the store is open. A number is not given twice, or a cursor on a
-  /// removed row would find itself on a new one.
+  /// What `highestRowNumber` gives, once known. A number is not given twice, or a cursor on a removed row would find
+  /// itself on a new one.
   std::optional<std::int64_t> lastRowNumber_;
 
   /// All fields but the memos.

@@ -120,7 +120,7 @@ void TableCursor::readOn(TableAccess& table) {
   place_ = Place::None;
   const bool isUnchanged = stamp_ == table.changeNumber();
   // A row whose key has changed goes on from its new place; one that is gone, from its last.
-  if (!isUnchanged) static_cast<void>(order_->readKey(from.rowNumber, from));
+  if (!isUnchanged) static_cast<void>(order_->readRow(from.rowNumber, from));
   batch_ = isUnchanged && batch_ > 1 ? std::min(batch_ * batchGrowth, largestBatch) : firstBatch;
   entries_.clear();
   at_ = 0;

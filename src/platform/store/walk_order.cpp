@@ -12,6 +12,9 @@ namespace {
 
 constexpr std::int64_t beforeAllRows = std::numeric_limits<std::int64_t>::min();
 
+/// The engine's word for no limit.
+constexpr std::int64_t unlimited = -1;
+
 bool hasMemo(const TableDescription& table) {
   for (const FieldDescription& field : table.fields) {
     if (field.type == FieldType::Memo) return true;
@@ -55,12 +58,14 @@ std::string WalkOrder::keyName(int key) const {
   return std::string(index_->keyFields[key]);
 }
 
-std::string WalkOrder::selectText() const {
+std::string WalkOrder::fieldsText() const {
   std::string text = std::string("SELECT ") + rowNumberColumn;
   for (const int field : fields_) text += ", " + std::string(table_.fields[static_cast<std::size_t>(field)].name);
-  text += " FROM " + std::string(table_.name);
-  if (index_ != nullptr) text += " INDEXED BY " + std::string(index_->name);
-  return text;
+  return text + " FROM " + std::string(table_.name);
+}
+
+std::string WalkOrder::selectText() const {
+  return fieldsText() + (index_ != nullptr ? " INDEXED BY " + std::string(index_->name) : std::string());
 }
 
 /// The end of a text whose first key fields are held fixed. The limit is parameter 1.
@@ -92,14 +97,23 @@ Statement& WalkOrder::aboveStatement(int key, bool orEqual) {
   return *statement;
 }
 
+/// Reads the row number and the slots from the statement's present row.
+void WalkOrder::readValues(const Statement& statement, Entry& entry) const {
+  entry.rowNumber = statement.whole(0);
+  for (std::size_t slot = 0; slot < fields_.size(); ++slot) {
+    const FieldType type = table_.fields[static_cast<std::size_t>(fields_[slot])].type;
+    entry.values[slot] = readValue(statement, static_cast<int>(slot) + 1, type);
+  }
+}
+
 void WalkOrder::collect(Running& statement, std::vector<Entry>& entries) const {
-  while (statement->step()) {
-    Entry& entry = entries.emplace_back();
-    entry.rowNumber = statement->whole(0);
-    for (std::size_t slot = 0; slot < fields_.size(); ++slot) {
-      const FieldType type = table_.fields[static_cast<std::size_t>(fields_[slot])].type;
-      entry.values[slot] = readValue(*statement, static_cast<int>(slot) + 1, type);
-    }
+  while (statement->step()) readValues(*statement, entries.emplace_back());
+}
+
+void WalkOrder::collectAmong(Running& statement, std::size_t full, std::vector<Entry>& entries,
+                             const RowSet& among) const {
+  while (entries.size() < full && statement->step()) {
+    if (among.contains(statement->whole(0))) readValues(*statement, entries.emplace_back());
   }
 }
 
@@ -111,24 +125,29 @@ void WalkOrder::readSameKey(const Value* key, std::int64_t afterRow, std::size_t
   collect(statement, entries);
 }
 
-void WalkOrder::readAbove(const Value* key, std::size_t limit, std::vector<Entry>& entries) {
+void WalkOrder::readAbove(const Value* key, std::size_t limit, std::vector<Entry>& entries, const RowSet* among) {
   // First the rows that differ in the last key field only, then those that differ in an earlier one.
   const std::size_t full = entries.size() + limit;
   for (int level = keyCount_ - 1; level >= 0 && entries.size() < full; --level) {
     const bool aboveNull = key[level].isNull();
     const Value lowest = aboveNull ? lowestValue(keyType(level)) : Value();
     Running statement(aboveStatement(level, aboveNull));
-    statement->bindWhole(1, static_cast<std::int64_t>(full - entries.size()));
+    statement->bindWhole(1, among != nullptr ? unlimited : static_cast<std::int64_t>(full - entries.size()));
     for (int fixed = 0; fixed < level; ++fixed) statement->bind(2 + fixed, key[fixed]);
     statement->bind(2 + level, aboveNull ? lowest : key[level]);
-    collect(statement, entries);
+    if (among != nullptr) {
+      collectAmong(statement, full, entries, *among);
+    } else {
+      collect(statement, entries);
+    }
   }
 }
 
-void WalkOrder::readFirst(std::size_t limit, std::vector<Entry>& entries) {
+void WalkOrder::readFirst(std::size_t limit, std::vector<Entry>& entries, const RowSet* among) {
   if (first_ == nullptr) first_ = &connection_.statement(selectText() + orderText(0));
   Running statement(*first_);
-  statement->bindWhole(1, static_cast<std::int64_t>(limit));
+  statement->bindWhole(1, among != nullptr ? unlimited : static_cast<std::int64_t>(limit));
+  if (among != nullptr) return collectAmong(statement, entries.size() + limit, entries, *among);
   collect(statement, entries);
 }
 
@@ -136,30 +155,25 @@ void WalkOrder::readEqual(const Key& key, std::size_t limit, std::vector<Entry>&
   readSameKey(key.data(), beforeAllRows, limit, entries);
 }
 
-void WalkOrder::readAbove(const Key& key, std::size_t limit, std::vector<Entry>& entries) {
-  readAbove(key.data(), limit, entries);
+void WalkOrder::readAbove(const Key& key, std::size_t limit, std::vector<Entry>& entries, const RowSet* among) {
+  readAbove(key.data(), limit, entries, among);
 }
 
 void WalkOrder::readAfter(const Entry& entry, std::size_t limit, std::vector<Entry>& entries) {
   const std::size_t before = entries.size();
   readSameKey(entry.values.data(), entry.rowNumber, limit, entries);
   const std::size_t found = entries.size() - before;
-  if (found < limit) readAbove(entry.values.data(), limit - found, entries);
+  if (found < limit) readAbove(entry.values.data(), limit - found, entries, nullptr);
 }
 
-bool WalkOrder::readKey(std::int64_t rowNumber, Entry& entry) {
-  if (key_ == nullptr) {
-    std::string names = rowNumberColumn;
-    for (int key = 0; key < keyCount_; ++key) names += ", " + keyName(key);
-    key_ = &connection_.statement("SELECT " + names + " FROM " + std::string(table_.name) + " WHERE " +
-                                  rowNumberColumn + " = ?1");
+bool WalkOrder::readRow(std::int64_t rowNumber, Entry& entry) {
+  if (row_ == nullptr) {
+    row_ = &connection_.statement(fieldsText() + " WHERE " + rowNumberColumn + " = ?1");
   }
-  Running statement(*key_);
+  Running statement(*row_);
   statement->bindWhole(1, rowNumber);
   if (!statement->step()) return false;
-  for (int key = 0; key < keyCount_; ++key) {
-    entry.values[static_cast<std::size_t>(key)] = readValue(*statement, key + 1, keyType(key));
-  }
+  readValues(*statement, entry);
   return true;
 }
 

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "platform/store/connection.h"
+#include "platform/store/row_set.h"
 #include "platform/store/schema.h"
 
 namespace pantrigo {
@@ -37,29 +38,32 @@ class WalkOrder {
   /// Where a field of the table stands in an entry's values; -1 when it does not come along.
   [[nodiscard]] int slotOf(int field) const { return slots_[static_cast<std::size_t>(field)]; }
 
-  // Each appends at most `limit` rows, in this order.
+  // Each appends at most `limit` rows, in this order. With a set of rows, all others are passed over.
 
   /// The first rows of the table.
-  void readFirst(std::size_t limit, std::vector<Entry>& entries);
+  void readFirst(std::size_t limit, std::vector<Entry>& entries, const RowSet* among = nullptr);
   /// Rows with that key.
   void readEqual(const Key& key, std::size_t limit, std::vector<Entry>& entries);
   /// Rows with a key above that one.
-  void readAbove(const Key& key, std::size_t limit, std::vector<Entry>& entries);
+  void readAbove(const Key& key, std::size_t limit, std::vector<Entry>& entries, const RowSet* among = nullptr);
   /// Rows behind the one that has, or had, this place.
   void readAfter(const Entry& entry, std::size_t limit, std::vector<Entry>& entries);
 
-  /// Reads the key of a row as it is now; false when the row is gone.
-  [[nodiscard]] bool readKey(std::int64_t rowNumber, Entry& entry);
+  /// Reads a row's values as they are now; false when the row is gone.
+  [[nodiscard]] bool readRow(std::int64_t rowNumber, Entry& entry);
 
  private:
+  [[nodiscard]] std::string fieldsText() const;
   [[nodiscard]] std::string selectText() const;
   [[nodiscard]] std::string orderText(int fixedKeys) const;
   [[nodiscard]] std::string keyName(int key) const;
   [[nodiscard]] Statement& sameKeyStatement();
   [[nodiscard]] Statement& aboveStatement(int key, bool orEqual);
+  void readValues(const Statement& statement, Entry& entry) const;
   void collect(Running& statement, std::vector<Entry>& entries) const;
+  void collectAmong(Running& statement, std::size_t full, std::vector<Entry>& entries, const RowSet& among) const;
   void readSameKey(const Value* key, std::int64_t afterRow, std::size_t limit, std::vector<Entry>& entries);
-  void readAbove(const Value* key, std::size_t limit, std::vector<Entry>& entries);
+  void readAbove(const Value* key, std::size_t limit, std::vector<Entry>& entries, const RowSet* among);
 
   Connection& connection_;
   const TableDescription& table_;
@@ -72,7 +76,7 @@ class WalkOrder {
 
   Statement* first_ = nullptr;
   Statement* sameKey_ = nullptr;
-  Statement* key_ = nullptr;
+  Statement* row_ = nullptr;
   std::array<std::array<Statement*, 2>, mostKeys> above_{};
 };
 

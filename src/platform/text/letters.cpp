@@ -1,8 +1,10 @@
 #include "platform/text/letters.h"
 
 #include <unicode/uchar.h>
+#include <unicode/uniset.h>
 
 #include <algorithm>
+#include <cstdint>
 
 #include "platform/text/utf8.h"
 
@@ -37,6 +39,21 @@ char32_t lowerCase(char32_t character) {
 char32_t foldCase(char32_t character) {
   if (character < 0x80) return lowerCase(character);
   return static_cast<char32_t>(u_foldCase(static_cast<UChar32>(character), U_FOLD_CASE_DEFAULT));
+}
+
+std::u32string caseVariants(char32_t folded) {
+  std::u32string variants(1, folded);
+  const auto point = static_cast<UChar32>(folded);
+  icu::UnicodeSet set(point, point);
+  // The set of full folding, which also holds characters that need several letters and fold to themselves here.
+  set.closeOver(USET_CASE_INSENSITIVE);
+  for (std::int32_t place = 0; place < set.getRangeCount(); ++place) {
+    for (UChar32 other = set.getRangeStart(place); other <= set.getRangeEnd(place); ++other) {
+      const auto character = static_cast<char32_t>(other);
+      if (character != folded && foldCase(character) == folded) variants.push_back(character);
+    }
+  }
+  return variants;
 }
 
 std::string UCase(std::string_view text) {

@@ -20,4 +20,7 @@ namespace pantrigo {
 /// Simple case folding of one character, for comparisons that ignore case (`like`).
 [[nodiscard]] char32_t foldCase(char32_t character);
 
+/// All characters that fold to the given one, which is folded itself and comes first.
+[[nodiscard]] std::u32string caseVariants(char32_t folded);
+
 }  // namespace pantrigo
