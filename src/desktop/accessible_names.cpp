@@ -58,6 +58,21 @@ QStringList labelsBefore(const Control& control, std::vector<const Label*> label
   return captions;
 }
 
+/// Which box of its line this is, counted from the left.
+qsizetype placeInLine(const Control& control) {
+  const auto& controls = control.form().controls();
+  return std::count_if(controls.begin(), controls.end(), [&](const Control* other) {
+    return other->container() == control.container() && other->takesFocus() && other->Left() < control.Left() &&
+           std::abs(other->Top() - control.Top()) < control.Height() * sameLine;
+  });
+}
+
+/// The caption of a label above; of one that heads several columns, the heading of this one.
+QString headingOf(const Control& control, const Label& label) {
+  const QStringList headings = columnHeadings(label.Caption());
+  return headings.size() > 1 ? headings.value(placeInLine(control)) : plainCaption(label.Caption());
+}
+
 QString labelAbove(const Control& control, const std::vector<const Label*>& labels) {
   const Label* best = nullptr;
   for (const Label* label : labels) {
@@ -67,7 +82,7 @@ QString labelAbove(const Control& control, const std::vector<const Label*>& labe
                          overlapAcross(label->box(), control.box()) > overlapAcross(best->box(), control.box()));
     if (better) best = label;
   }
-  return best == nullptr ? QString() : plainCaption(best->Caption());
+  return best == nullptr ? QString() : headingOf(control, *best);
 }
 
 bool captionsItself(const Control& control) {

@@ -1,6 +1,7 @@
 #include "desktop/form_view.h"
 
 #include <QCloseEvent>
+#include <QComboBox>
 #include <QCoreApplication>
 #include <QElapsedTimer>
 #include <QKeyEvent>
@@ -293,7 +294,9 @@ void FormView::focusChanged() {
   showFocus();
   if (isMainWindow() || form_.ActiveControl() == nullptr) return;
   // What a dialog asks for again, as after a refused entry, is there to be typed over.
-  if (auto* box = qobject_cast<QLineEdit*>(widgetOf(*form_.ActiveControl()))) box->selectAll();
+  QWidget* widget = widgetOf(*form_.ActiveControl());
+  if (auto* box = qobject_cast<QLineEdit*>(widget)) box->selectAll();
+  if (auto* box = qobject_cast<QComboBox*>(widget)) box->lineEdit()->selectAll();
 }
 
 void FormView::showFocus() {

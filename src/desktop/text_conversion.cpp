@@ -2,6 +2,7 @@
 
 #include <QLineEdit>
 #include <QPlainTextEdit>
+#include <QRegularExpression>
 #include <QSignalBlocker>
 #include <QTextCursor>
 #include <QTextDocument>
@@ -78,6 +79,11 @@ bool hasAccessKey(std::string_view caption) {
     ++place;
   }
   return false;
+}
+
+QStringList columnHeadings(std::string_view caption) {
+  static const QRegularExpression gap(QStringLiteral(" {2,}"));
+  return plainCaption(caption).split(gap, Qt::SkipEmptyParts);
 }
 
 void cutToLimit(QLineEdit& box, std::size_t limit, std::size_t before) {

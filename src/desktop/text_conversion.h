@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 #include <cstddef>
 #include <string>
 #include <string_view>
@@ -27,6 +28,10 @@ namespace pantrigo {
 /// A caption without the marks of access keys; "&&" is one "&", and an "&" before a blank marks nothing.
 [[nodiscard]] QString plainCaption(std::string_view caption);
 [[nodiscard]] bool hasAccessKey(std::string_view caption);
+
+/// The headings in a caption that stands above several columns, with two blanks or more between them; one heading for
+/// any other caption, none for an empty one.
+[[nodiscard]] QStringList columnHeadings(std::string_view caption);
 
 /// Takes back what the last typing or pasting put beyond the limit of code points, in front of the cursor. `before` is
 /// the count that the box had: a longer text that was there already stays. A limit of 0 is none. Raises no signals.

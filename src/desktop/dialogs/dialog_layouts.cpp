@@ -12,8 +12,8 @@ struct DialogLayout {
 };
 
 constexpr DialogLayout layouts[] = {
-    {"frmAbout", layOutAbout},       {"frmNutrition", layOutNutrition}, {"frmOven", layOutOven},
-    {"frmSettings", layOutSettings}, {"frmSource", layOutSource},
+    {"frmAbout", layOutAbout}, {"frmIngredient", layOutIngredient}, {"frmNutrition", layOutNutrition},
+    {"frmOven", layOutOven},   {"frmSettings", layOutSettings},     {"frmSource", layOutSource},
 };
 
 }  // namespace

@@ -1,6 +1,5 @@
 #include <QGridLayout>
 #include <QLabel>
-#include <QRegularExpression>
 #include <QVBoxLayout>
 
 #include "desktop/dialogs/dialog_layouts.h"
@@ -12,15 +11,10 @@ namespace pantrigo {
 
 namespace {
 
-/// The three headings of the chart, which stand in one caption with blanks between them.
-QStringList chartHeadings(const FormView& view) {
-  const auto& heading = static_cast<const Label&>(*view.form().control("Label37"));
-  return toQt(heading.Caption()).split(QRegularExpression(QStringLiteral(" {2,}")), Qt::SkipEmptyParts);
-}
-
 void addHeadings(const FormView& view, QWidget& frame, QGridLayout& grid) {
   int column = 0;
-  for (const QString& heading : chartHeadings(view)) {
+  const auto& caption = static_cast<const Label&>(*view.form().control("Label37")).Caption();
+  for (const QString& heading : columnHeadings(caption)) {
     auto* label = new QLabel(heading, &frame);
     QFont bold = frame.font();
     bold.setWeight(QFont::DemiBold);
