@@ -14,20 +14,15 @@ std::vector<Control*> firstPage(FrmBrowse& form) {
 }
 
 std::vector<Control*> continuedPage(FrmBrowse& form) {
-  return {&form.lblSource,        &form.txtSource,        &form.lblTimeTo,
-          &form.lblPrepareTime,   &form.lblPrepareSign,   &form.txtPrepareTime,
-          &form.lblCookTime,      &form.lblCookSign,      &form.txtCookTime,
-          &form.lblNutrition,     &form.lblEnergy,        &form.lblEnergySign,
-          &form.txtEnergy,        &form.lblProtein,       &form.lblProteinSign,
-          &form.txtProtein,       &form.lblCarbohydrates, &form.lblCarbohydratesSign,
-          &form.txtCarbohydrates, &form.lblFibre,         &form.lblFibreSign,
-          &form.txtFibre,         &form.lblFat,           &form.lblFatSign,
-          &form.txtFat,           &form.lblCholesterol,   &form.lblCholesterolSign,
-          &form.txtCholesterol,   &form.lblSodium,        &form.lblSodiumSign,
-          &form.txtSodium,        &form.lblCalcium,       &form.lblCalciumSign,
-          &form.txtCalcium,       &form.lblIron,          &form.lblIronSign,
-          &form.txtIron,          &form.lblComments,      &form.txtComments,
-          &form.lblMethod,        &form.txtMethod};
+  std::vector<Control*> page{&form.lblSource, &form.txtSource, &form.lblTimeTo};
+  bool nutrients = false;
+  for (const NumericFilter& filter : numericFilters) {
+    if (!filter.isTime && !nutrients) page.push_back(&form.lblNutrition);
+    nutrients = !filter.isTime;
+    page.insert(page.end(), {&(form.*filter.caption), &(form.*filter.sign), &(form.*filter.box)});
+  }
+  page.insert(page.end(), {&form.lblComments, &form.txtComments, &form.lblMethod, &form.txtMethod});
+  return page;
 }
 
 void setVisible(const std::vector<Control*>& controls, bool visible) {

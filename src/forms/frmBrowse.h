@@ -1,5 +1,8 @@
 #pragma once
 
+#include <array>
+#include <string_view>
+
 #include "platform/controls/controls.h"
 #include "platform/controls/form.h"
 
@@ -162,5 +165,36 @@ struct FrmBrowse : Form {
   static constexpr Box signBox(double top) { return {2430, top + 30, 420, 255}; }
   static constexpr Box numberBox(double top) { return {2880, top, 1080, 300}; }
 };
+
+/// A filter on a number: one row of the continued page. It limits one field of a recipe.
+struct NumericFilter {
+  /// The field of `Recipe`.
+  std::string_view field;
+  /// A time in minutes; the others are nutrients.
+  bool isTime;
+  Label FrmBrowse::*caption;
+  Label FrmBrowse::*sign;
+  TextBox FrmBrowse::*box;
+};
+
+/// What a sign says: the limit is the most, or the least.
+inline constexpr std::string_view atMost = "<=";
+inline constexpr std::string_view atLeast = ">=";
+
+/// The numeric filters from the top of the page: the order in which they are checked, cleared and asked for.
+inline constexpr std::array<NumericFilter, 11> numericFilters{{
+    {"PrepareTime", true, &FrmBrowse::lblPrepareTime, &FrmBrowse::lblPrepareSign, &FrmBrowse::txtPrepareTime},
+    {"CookTime", true, &FrmBrowse::lblCookTime, &FrmBrowse::lblCookSign, &FrmBrowse::txtCookTime},
+    {"Energy", false, &FrmBrowse::lblEnergy, &FrmBrowse::lblEnergySign, &FrmBrowse::txtEnergy},
+    {"Protein", false, &FrmBrowse::lblProtein, &FrmBrowse::lblProteinSign, &FrmBrowse::txtProtein},
+    {"Carbohydrates", false, &FrmBrowse::lblCarbohydrates, &FrmBrowse::lblCarbohydratesSign,
+     &FrmBrowse::txtCarbohydrates},
+    {"Fibre", false, &FrmBrowse::lblFibre, &FrmBrowse::lblFibreSign, &FrmBrowse::txtFibre},
+    {"Fat", false, &FrmBrowse::lblFat, &FrmBrowse::lblFatSign, &FrmBrowse::txtFat},
+    {"Cholesterol", false, &FrmBrowse::lblCholesterol, &FrmBrowse::lblCholesterolSign, &FrmBrowse::txtCholesterol},
+    {"Sodium", false, &FrmBrowse::lblSodium, &FrmBrowse::lblSodiumSign, &FrmBrowse::txtSodium},
+    {"Calcium", false, &FrmBrowse::lblCalcium, &FrmBrowse::lblCalciumSign, &FrmBrowse::txtCalcium},
+    {"Iron", false, &FrmBrowse::lblIron, &FrmBrowse::lblIronSign, &FrmBrowse::txtIron},
+}};
 
 }  // namespace pantrigo
