@@ -62,6 +62,12 @@ std::unique_ptr<Binding> makeBinding(Control& control, QWidget& parent, UserEven
       return bindToolBar(static_cast<ToolBar&>(control), parent, events);
     case ControlKind::Image:
       return bindImage(static_cast<Image&>(control), parent, events);
+    case ControlKind::DriveList:
+      return bindDriveList(static_cast<DriveList&>(control), parent, events);
+    case ControlKind::FolderList:
+      return bindFolderList(static_cast<FolderList&>(control), parent, events);
+    case ControlKind::FileList:
+      return bindFileList(static_cast<FileList&>(control), parent, events);
     case ControlKind::MenuEntry:
     case ControlKind::CommonDialog:
     case ControlKind::ImageList:

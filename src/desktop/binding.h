@@ -74,6 +74,9 @@ inline constexpr const char* textSizeProperty = "textSize";
 [[nodiscard]] std::unique_ptr<Binding> bindOptionButton(OptionButton& option, QWidget& parent, UserEvents& events);
 [[nodiscard]] std::unique_ptr<Binding> bindCommandButton(CommandButton& button, QWidget& parent, UserEvents& events);
 [[nodiscard]] std::unique_ptr<Binding> bindToolBar(ToolBar& toolBar, QWidget& parent, UserEvents& events);
+[[nodiscard]] std::unique_ptr<Binding> bindDriveList(DriveList& drives, QWidget& parent, UserEvents& events);
+[[nodiscard]] std::unique_ptr<Binding> bindFolderList(FolderList& folders, QWidget& parent, UserEvents& events);
+[[nodiscard]] std::unique_ptr<Binding> bindFileList(FileList& files, QWidget& parent, UserEvents& events);
 [[nodiscard]] std::unique_ptr<Binding> bindImage(Image& image, QWidget& parent, UserEvents& events);
 
 }  // namespace pantrigo

@@ -1,9 +1,8 @@
-#include <QComboBox>
 #include <QLineEdit>
 #include <QSignalBlocker>
-#include <QWheelEvent>
 
 #include "desktop/binding.h"
+#include "desktop/combo_field.h"
 #include "desktop/text_conversion.h"
 #include "platform/controls/input.h"
 
@@ -11,34 +10,22 @@ namespace pantrigo {
 
 namespace {
 
-/// A combo box that leaves the wheel to the window unless the person is in it, and that never picks a row by itself.
-class ComboField : public QComboBox {
+/// A combo box that is typed into, and that never picks a row by itself.
+class TypedComboField : public ComboField {
  public:
-  explicit ComboField(QWidget* parent) : QComboBox(parent) {
+  explicit TypedComboField(QWidget* parent) : ComboField(parent) {
     setEditable(true);
     setInsertPolicy(QComboBox::NoInsert);
     setCompleter(nullptr);
-    setFocusPolicy(Qt::StrongFocus);
-    setMaxVisibleItems(16);
-    setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     // Leaving the box would otherwise pick the row that equals the typed text but for its case.
     QObject::disconnect(lineEdit(), SIGNAL(editingFinished()), this, nullptr);
-  }
-
- protected:
-  void wheelEvent(QWheelEvent* event) override {
-    if (hasFocus()) {
-      QComboBox::wheelEvent(event);
-    } else {
-      event->ignore();
-    }
   }
 };
 
 class ComboBinding : public Binding {
  public:
   ComboBinding(ComboBox& combo, QWidget& parent, UserEvents& userEvents)
-      : Binding(combo, userEvents), combo_(combo), field_(new ComboField(&parent)) {
+      : Binding(combo, userEvents), combo_(combo), field_(new TypedComboField(&parent)) {
     QObject::connect(field_->lineEdit(), &QLineEdit::textEdited, field_, [this] { edited(); });
     QObject::connect(field_, &QComboBox::activated, field_, [this](int row) {
       events().dispatch([&](Windows& windows) { userPicks(windows, combo_, row); });
@@ -88,7 +75,7 @@ class ComboBinding : public Binding {
   }
 
   ComboBox& combo_;
-  ComboField* field_;
+  TypedComboField* field_;
 };
 
 }  // namespace

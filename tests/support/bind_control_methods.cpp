@@ -30,20 +30,15 @@ void act(lua_State* lua, ScenarioCase& scenario, Control& control, const std::fu
   scenario.act(lua, control.form(), event);
 }
 
-template <class Rows>
-int countOf(const Rows& rows) {
-  return rows.ListCount();
-}
-
 /// The row that a number or a text at a place of the stack names; -1 when there is none.
 template <class Rows>
 int rowAt(lua_State* lua, int place, const Rows& rows) {
   if (lua_type(lua, place) != LUA_TSTRING) {
     const int row = toWhole(lua, place);
-    return row < countOf(rows) ? row : -1;
+    return row < rows.ListCount() ? row : -1;
   }
   const std::string text = toText(lua, place);
-  for (int row = 0; row < countOf(rows); ++row) {
+  for (int row = 0; row < rows.ListCount(); ++row) {
     if (rows.List(row) == text) return row;
   }
   return -1;
@@ -55,6 +50,27 @@ int givenRow(lua_State* lua, int place, const Rows& rows) {
   const int row = rowAt(lua, place, rows);
   if (row < 0) refuse(rows, "has no row " + shown(lua, place));
   return row;
+}
+
+bool isNameList(const Control& control) {
+  return control.kind() == ControlKind::DriveList || control.kind() == ControlKind::FolderList ||
+         control.kind() == ControlKind::FileList;
+}
+
+/// The row of a list of drives, folders or files. A folder is named by its path or its name, and those above the folder
+/// on show have numbers below 0.
+int givenName(lua_State* lua, int place, const NameList& list) {
+  if (lua_type(lua, place) != LUA_TSTRING) {
+    const int row = toWhole(lua, place);
+    if (row >= list.firstRow() && row < list.endRow()) return row;
+    refuse(list, "has no row " + shown(lua, place));
+  }
+  const std::string text = toText(lua, place);
+  for (int row = list.endRow() - 1; row >= list.firstRow(); --row) {
+    const bool named = list.kind() == ControlKind::FolderList && static_cast<const FolderList&>(list).name(row) == text;
+    if (named || list.List(row) == text) return row;
+  }
+  refuse(list, "has no row " + shown(lua, place));
 }
 
 ListBox& singleList(Control& control) {
@@ -74,10 +90,14 @@ int click(lua_State* lua, ScenarioCase& scenario) {
 int doubleClick(lua_State* lua, ScenarioCase& scenario) {
   Control& control = reached(lua, scenario);
   std::function<void(Windows&)> first;
-  if (!lua_isnoneornil(lua, 2)) {
+  const bool onRow = !lua_isnoneornil(lua, 2);
+  if (onRow && isNameList(control)) {
+    auto& list = static_cast<NameList&>(control);
+    first = [&list, row = givenName(lua, 2, list)](Windows& windows) { userPicks(windows, list, row); };
+  } else if (onRow) {
     ListBox& list = singleList(control);
     first = [&list, row = givenRow(lua, 2, list)](Windows& windows) { userPicks(windows, list, row); };
-  } else if (control.kind() == ControlKind::ListBox) {
+  } else if (control.kind() == ControlKind::ListBox || isNameList(control)) {
     first = [&](Windows& windows) { userPresses(windows, control, leftButton); };
   } else {
     first = [&](Windows& windows) { userClicks(windows, control); };
@@ -127,6 +147,10 @@ int pick(lua_State* lua, ScenarioCase& scenario) {
     auto& combo = static_cast<ComboBox&>(control);
     const int row = givenRow(lua, 2, combo);
     act(lua, scenario, control, [&](Windows& windows) { userPicks(windows, combo, row); });
+  } else if (isNameList(control)) {
+    auto& list = static_cast<NameList&>(control);
+    const int row = givenName(lua, 2, list);
+    act(lua, scenario, control, [&](Windows& windows) { userPicks(windows, list, row); });
   } else {
     ListBox& list = singleList(control);
     const int row = givenRow(lua, 2, list);
@@ -174,6 +198,8 @@ int rowText(lua_State* lua, ScenarioCase& scenario) {
     pushText(lua, static_cast<const ComboBox&>(control).List(toWhole(lua, 2)));
   } else if (control.kind() == ControlKind::ListBox) {
     pushText(lua, static_cast<const ListBox&>(control).List(toWhole(lua, 2)));
+  } else if (isNameList(control)) {
+    pushText(lua, static_cast<const NameList&>(control).List(toWhole(lua, 2)));
   } else {
     refuse(control, "has no rows");
   }
@@ -187,6 +213,11 @@ const ListBox& namedList(lua_State* lua, ScenarioCase& scenario) {
 }
 
 int selected(lua_State* lua, ScenarioCase& scenario) {
+  if (const Control& control = named(lua, scenario); isNameList(control)) {
+    const auto& list = static_cast<const NameList&>(control);
+    lua_pushboolean(lua, givenName(lua, 2, list) == list.ListIndex() ? 1 : 0);
+    return 1;
+  }
   const ListBox& list = namedList(lua, scenario);
   lua_pushboolean(lua, list.Selected(rowAt(lua, 2, list)) ? 1 : 0);
   return 1;

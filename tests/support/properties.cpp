@@ -91,6 +91,31 @@ const ControlProperty ofImages[] = {
      {}},
 };
 
+const ControlProperty ofNameLists[] = {
+    {"ListCount", [](const Control& c) -> Value { return as<NameList>(c).ListCount(); }, {}},
+    {"ListIndex", [](const Control& c) -> Value { return as<NameList>(c).ListIndex(); },
+     [](Control& c, double value) { as<NameList>(c).setListIndex(static_cast<int>(value)); }},
+};
+
+const ControlProperty ofDriveLists[] = {
+    {"Drive", [](const Control& c) -> Value { return as<DriveList>(c).Drive(); },
+     [](Control& c, const std::string& value) { as<DriveList>(c).setDrive(value); }},
+};
+
+const ControlProperty ofFolderLists[] = {
+    {"Path", [](const Control& c) -> Value { return as<FolderList>(c).Path(); },
+     [](Control& c, const std::string& value) { as<FolderList>(c).setPath(value); }},
+};
+
+const ControlProperty ofFileLists[] = {
+    {"Path", [](const Control& c) -> Value { return as<FileList>(c).Path(); },
+     [](Control& c, const std::string& value) { as<FileList>(c).setPath(value); }},
+    {"Pattern", [](const Control& c) -> Value { return as<FileList>(c).Pattern(); },
+     [](Control& c, const std::string& value) { as<FileList>(c).setPattern(value); }},
+    {"FileName", [](const Control& c) -> Value { return as<FileList>(c).FileName(); },
+     [](Control& c, const std::string& value) { as<FileList>(c).setFileName(value); }},
+};
+
 const ControlProperty ofDialogs[] = {
     {"Flags", [](const Control& c) -> Value { return as<CommonDialog>(c).Flags(); },
      [](Control& c, double value) { as<CommonDialog>(c).setFlags(static_cast<int>(value)); }},
@@ -157,6 +182,9 @@ const KindProperties ofKinds[] = {
     {ControlKind::CheckBox, ofCheckBoxes},  {ControlKind::OptionButton, ofCaptioned},
     {ControlKind::OptionButton, ofOptions}, {ControlKind::CommandButton, ofCaptioned},
     {ControlKind::MenuEntry, ofCaptioned},  {ControlKind::Image, ofImages},
+    {ControlKind::DriveList, ofNameLists},  {ControlKind::DriveList, ofDriveLists},
+    {ControlKind::FolderList, ofNameLists}, {ControlKind::FolderList, ofFolderLists},
+    {ControlKind::FileList, ofNameLists},   {ControlKind::FileList, ofFileLists},
     {ControlKind::ToolBar, ofToolBars},     {ControlKind::CommonDialog, ofDialogs},
     {ControlKind::ImageList, ofImageLists},
 };

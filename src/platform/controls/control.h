@@ -31,6 +31,9 @@ enum class ControlKind {
   MenuEntry,
   ToolBar,
   Image,
+  DriveList,
+  FolderList,
+  FileList,
   CommonDialog,
   ImageList
 };

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/controls/file_controls.h"
 #include "platform/controls/list_box.h"
 #include "platform/controls/simple_controls.h"
 #include "platform/controls/text_controls.h"

@@ -36,6 +36,12 @@ void invokeClick(Control& control) {
   }
 }
 
+void enterPickedFolder(Control& control) {
+  if (control.kind() != ControlKind::FolderList || !stillThere(control)) return;
+  auto& folders = static_cast<FolderList&>(control);
+  folders.enter(folders.ListIndex());
+}
+
 }  // namespace
 
 void userClicks(Windows& windows, Control& control) {
@@ -44,7 +50,9 @@ void userClicks(Windows& windows, Control& control) {
 
 void userDoubleClicks(Windows& windows, Control& control) {
   if (stillThere(control)) windows.userFocuses(control);
-  if (stillThere(control)) control.DblClick();
+  if (!stillThere(control)) return;
+  control.DblClick();
+  enterPickedFolder(control);
 }
 
 void userPresses(Windows& windows, Control& control, MouseButton button) {
@@ -125,6 +133,20 @@ void userMovesTo(Windows& windows, ListBox& list, int row) {
   }
 }
 
+void userPicks(Windows& windows, NameList& list, int row) {
+  if (pressed(windows, list, leftButton)) userMovesTo(windows, list, row);
+}
+
+void userMovesTo(Windows& windows, NameList& list, int row) {
+  windows.userFocuses(list);
+  const bool again = row == list.ListIndex() && list.kind() != ControlKind::DriveList;
+  if (again) {
+    list.Click();
+  } else {
+    list.setListIndex(row);
+  }
+}
+
 void userToggles(Windows& windows, ListBox& list, int row) {
   if (!pressed(windows, list, leftButton)) return;
   list.setSelected(row, !list.Selected(row));
@@ -161,7 +183,9 @@ KeyUse enterKey(Form& form, Control* focused) {
     button->Click();
     return KeyUse::Used;
   }
-  if (focused != nullptr) focused->KeyDown(keyReturn);
+  if (focused == nullptr) return KeyUse::Used;
+  focused->KeyDown(keyReturn);
+  enterPickedFolder(*focused);
   return KeyUse::Used;
 }
 

@@ -17,7 +17,8 @@ enum Key : int { keyReturn = 13, keyEscape = 27, keyPageUp = 33, keyPageDown = 3
 /// Presses a button, picks a menu entry, toggles a check box, chooses an option, clicks a label, frame or image. A list
 /// gets its `MouseDown` and `Click`.
 void userClicks(Windows& windows, Control& control);
-/// The second click of a double click; the first has raised its own events.
+/// The second click of a double click; the first has raised its own events. On a list of folders it enters the picked
+/// one.
 void userDoubleClicks(Windows& windows, Control& control);
 void userPresses(Windows& windows, Control& control, MouseButton button);
 
@@ -37,6 +38,11 @@ void userPicks(Windows& windows, ComboBox& box, int row);
 void userPicks(Windows& windows, ListBox& list, int row);
 /// The keyboard moves the selection of a list with single selection: as a pick, without the mouse's events.
 void userMovesTo(Windows& windows, ListBox& list, int row);
+/// Picks a row of a list of drives, folders or files; a row that is picked already raises `Click` again, but for a
+/// drive.
+void userPicks(Windows& windows, NameList& list, int row);
+/// The keyboard moves the pick of such a list: as a pick, without the mouse's events.
+void userMovesTo(Windows& windows, NameList& list, int row);
 /// Flips the mark of a row of a list with multiple selection.
 void userToggles(Windows& windows, ListBox& list, int row);
 
@@ -47,9 +53,9 @@ void userPressesButton(Windows& windows, ToolBar& toolBar, const std::string& ke
 enum class KeyUse { Used, Unused };
 
 /// A key, to the focused control of the form. Esc presses the cancel button, else goes to the `KeyPress` of a form that
-/// previews keys; Enter presses the focused or the default button (a multi-line box keeps it); the other keys go to the
-/// `KeyDown` of the form, if it previews, and of the control. `Unused` means that the view is to give the key its
-/// ordinary effect.
+/// previews keys; Enter presses the focused or the default button (a multi-line box keeps it), and in a list of folders
+/// enters the picked one; the other keys go to the `KeyDown` of the form, if it previews, and of the control. `Unused`
+/// means that the view is to give the key its ordinary effect.
 KeyUse userKey(Windows& windows, Form& form, int code);
 
 }  // namespace pantrigo

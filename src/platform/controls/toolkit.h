@@ -4,6 +4,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "platform/controls/simple_controls.h"
 #include "platform/files/files.h"
@@ -66,6 +67,8 @@ class Toolkit {
   virtual void Beep() = 0;
   [[nodiscard]] virtual LocalTime Now() const = 0;
   [[nodiscard]] virtual ScreenSize screen() const = 0;
+  /// The folders where drives are to be found: the root, and the mounted volumes by name.
+  [[nodiscard]] virtual std::vector<std::string> drives() const { return {"/"}; }
   /// The pointer of the whole screen; 0 gives each window its own.
   virtual void setScreenPointer(int pointer) = 0;
 
