@@ -1,7 +1,5 @@
 #include "browse/recipe_commands.h"
 
-#include <array>
-
 #include "core/colours.h"
 #include "core/messages.h"
 #include "core/pointer.h"
@@ -20,20 +18,6 @@ std::string selectedTitle(Run& run) {
   ListBox& titles = run.frmBrowse.lstTitles;
   titles.setRow(titles.ListIndex());
   return titles.List(titles.Row());
-}
-
-/// The texts that remove a recipe, each followed by its id; links first.
-constexpr std::array<std::string_view, 3> deleteTexts{
-    " Delete FROM RecipeHealth WHERE RecipeHealth!RecipeId = ",
-    " Delete FROM RecipeOther WHERE RecipeOther!RecipeId = ",
-    " Delete FROM Recipe WHERE Recipe!RecipeId = ",
-};
-
-void deleteRows(Run& run, const std::string& recipeId) {
-  for (const std::string_view text : deleteTexts) {
-    run.GLOBAL.gSqlText = std::string(text) + recipeId;
-    run.GLOBAL.gDatabase.Execute(run.GLOBAL.gSqlText);
-  }
 }
 
 void removeSelectedRow(Run& run) {
@@ -87,7 +71,7 @@ void subDeleteTitle(Run& run) {
   static_cast<void>(seekTitle(run.GLOBAL, run.GLOBAL.gSelectedTitle));
   const std::string recipeId = run.GLOBAL.gRecipe.Field("RecipeId").text();
   guarded([&] { run.files.Kill(recipeId + ".BMP"); });
-  deleteRows(run, recipeId);
+  deleteRecipe(run.GLOBAL, recipeId);
   removeSelectedRow(run);
 }
 

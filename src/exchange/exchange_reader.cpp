@@ -1,5 +1,6 @@
 #include "exchange/exchange_reader.h"
 
+#include "core/recipes.h"
 #include "platform/text/letters.h"
 #include "platform/text/numbers.h"
 #include "platform/text/utf8.h"
@@ -9,11 +10,6 @@ namespace pantrigo {
 namespace {
 
 constexpr long tagLength = 3;
-
-/// The suffix of the next picture: none, "a", "b" and so on by character code.
-std::string nextSuffix(const std::string& suffix) {
-  return suffix.empty() ? "a" : std::string(1, static_cast<char>(suffix.front() + 1));
-}
 
 }  // namespace
 
@@ -199,7 +195,7 @@ void ExchangeReader::restorePictures() {
     if (files_.Dir(source).empty()) return;
     const std::string target = plainText(global_.gImageRecipeId) + global_.gExportSuffix + ".bmp";
     step([&] { files_.FileCopy(source, Files::join(global_.gStartDir, target)); });
-    global_.gExportSuffix = nextSuffix(global_.gExportSuffix);
+    global_.gExportSuffix = nextPictureSuffix(global_.gExportSuffix);
   }
 }
 
