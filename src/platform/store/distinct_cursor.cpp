@@ -38,7 +38,9 @@ DistinctCursor::DistinctCursor(std::shared_ptr<Database::State> state, const Tab
     slots_.push_back(static_cast<std::size_t>(order().slotOf(findField(table, field.name))));
   }
   keep(std::move(rowNumbers));
-  restart();
+  // Rows that were read to be put in order are a first page, if they are no more than one.
+  lookedUp_ = page_.size();
+  if (page_.empty() || page_.size() > pageRows) restart();
 }
 
 WalkOrder& DistinctCursor::order() const {

@@ -94,7 +94,7 @@ std::unique_ptr<Connection> openReadWrite(const fs::path& file) {
   connection->execute(
       "PRAGMA synchronous=FULL;"
       // In KiB: the working pages of a large cookbook.
-      "PRAGMA cache_size=-32768;"
+      "PRAGMA cache_size=-8192;"
       // In bytes: what a burst of changes may leave of the log.
       "PRAGMA journal_size_limit=8388608;"
       // Takes the lock, and keeps it.

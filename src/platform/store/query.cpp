@@ -41,29 +41,54 @@ PackedRows readRows(Statement& statement, const std::vector<FieldDescription>& f
   return rows;
 }
 
+/// Puts the id itself in the place of a look-up that finds one row, in the tests within a membership: so the category's
+/// name is not sought again for each recipe.
+void settleLookUps(Connection& connection, Membership& membership) {
+  const auto settle = [&](Membership& inner) {
+    settleLookUps(connection, inner);
+    if (!isLookUp(inner)) return false;
+    const EngineText text = memberValuesText(inner);
+    Running statement(connection.queryStatement(text.sql));
+    text.bindTo(*statement);
+    if (!statement->step() || statement->isNull(0)) return false;
+    const double id = statement->number(0);
+    if (statement->step()) return false;
+    const SqlField field{std::string(inner.outer.table->name), std::string(inner.outer.field->name)};
+    membership.conditions.push_back({SqlComparison{field, "=", SqlLiteral(id)}});
+    return true;
+  };
+  std::erase_if(membership.memberships, settle);
+}
+
+/// The rows of a membership, counted up to a limit.
+std::int64_t countRows(Connection& connection, const Membership& membership, std::int64_t limit) {
+  const EngineText text = membershipSizeText(membership);
+  Running statement(connection.queryStatement(text.sql));
+  text.bindTo(*statement);
+  statement->bindWhole(static_cast<int>(text.parameters.size()) + 1, limit);
+  return statement->step() ? statement->whole(0) : 0;
+}
+
 /// Which of the memberships has the fewest rows. They are counted together up to a limit that grows, so that the work
 /// goes by the smallest.
 std::size_t smallestMembership(Connection& connection, const std::vector<Membership>& memberships) {
-  constexpr long firstLimit = 64;
-  constexpr long limitGrowth = 8;
+  constexpr std::int64_t firstLimit = 64;
+  constexpr std::int64_t limitGrowth = 8;
   if (memberships.size() < 2) return 0;
-  for (long limit = firstLimit;; limit *= limitGrowth) {
-    long smallest = limit;
+  for (std::int64_t limit = firstLimit;; limit *= limitGrowth) {
+    std::int64_t smallest = limit;
     std::size_t chosen = 0;
     for (std::size_t place = 0; place < memberships.size(); ++place) {
-      const EngineText text = membershipSizeText(memberships[place]);
-      Running statement(connection.queryStatement(text.sql));
-      text.bindTo(*statement);
-      long rows = 0;
-      while (rows < smallest && statement->step()) ++rows;
+      const std::int64_t rows = countRows(connection, memberships[place], smallest);
       if (rows < smallest) chosen = place;
-      smallest = rows;
+      smallest = std::min(smallest, rows);
     }
     if (smallest < limit) return chosen;
   }
 }
 
-std::vector<std::int64_t> findRows(Connection& connection, const RowSearch& search) {
+std::vector<std::int64_t> findRows(Connection& connection, RowSearch search) {
+  for (Membership& membership : search.memberships) settleLookUps(connection, membership);
   const EngineText text = rowSearchText(search, smallestMembership(connection, search.memberships));
   Running statement(connection.queryStatement(text.sql));
   text.bindTo(*statement);
@@ -86,10 +111,10 @@ std::shared_ptr<Cursor> openQuery(const std::shared_ptr<Database::State>& state,
   Connection& connection = state->connection();
   SqlSelect select = parseSelect(sql);
   EngineQuery query = generateQuery(select);
-  if (const auto search = makeRowSearch(std::move(select))) {
+  if (auto search = makeRowSearch(std::move(select))) {
     if (const IndexDescription* index = orderOf(*search->table, query.fields)) {
-      return std::make_shared<DistinctCursor>(state, *search->table, *index, std::move(query.fields),
-                                              findRows(connection, *search));
+      std::vector<std::int64_t> rows = findRows(connection, std::move(*search));
+      return std::make_shared<DistinctCursor>(state, *search->table, *index, std::move(query.fields), std::move(rows));
     }
   }
   Running statement(connection.queryStatement(query.text.sql));

@@ -7,6 +7,7 @@
 
 #include "platform/store/names.h"
 #include "platform/store/schema_sql.h"
+#include "platform/text/numbers.h"
 
 namespace pantrigo {
 
@@ -201,6 +202,9 @@ bool isPattern(const SqlCondition& condition) {
   return !std::holds_alternative<SqlComparison>(condition.content);
 }
 
+/// Name in the engine's texts of a value that several memberships test.
+constexpr std::string_view valueName = "MemberValue";
+
 /// Writes the tests of rows.
 class TestWriter {
  public:
@@ -212,8 +216,8 @@ class TestWriter {
   }
 
   /// Looks for rows that have the row's value: for few rows against many members.
-  [[nodiscard]] std::string probed(const Membership& membership) {
-    const std::string link = membership.inner.text() + " = " + membership.outer.text();
+  [[nodiscard]] std::string probed(const Membership& membership, std::string_view value) {
+    const std::string link = membership.inner.text() + " = " + std::string(value);
     return "EXISTS (SELECT 1 FROM " + nameOf(*membership.inner.table) + " WHERE " + link +
            tests(membership, *membership.inner.table, " AND ") + ")";
   }
@@ -222,6 +226,14 @@ class TestWriter {
   [[nodiscard]] std::string allOf(const Membership& membership) {
     return "SELECT " + membership.inner.text() + " FROM " + nameOf(*membership.inner.table) +
            tests(membership, *membership.inner.table, " WHERE ");
+  }
+
+  /// The values that satisfy the membership and others of the same outer column, which are probed for each value.
+  [[nodiscard]] std::string allOf(const Membership& membership, const std::vector<const Membership*>& others) {
+    std::string text = "SELECT " + membership.inner.text() + " AS " + std::string(valueName) + " FROM " +
+                       nameOf(*membership.inner.table) + tests(membership, *membership.inner.table, " WHERE ");
+    for (const Membership* other : others) text += " AND " + probed(*other, valueName);
+    return text;
   }
 
   /// All conditions and memberships with AND between them, the cheap ones first; empty, or with `lead` in front.
@@ -291,16 +303,27 @@ std::optional<RowSearch> makeRowSearch(SqlSelect select) {
   return search;
 }
 
+bool isLookUp(const Membership& membership) {
+  return isUnique(membership.inner) && membership.memberships.empty();
+}
+
+EngineText memberValuesText(const Membership& membership) {
+  EngineText text;
+  text.sql = TestWriter(text).allOf(membership);
+  return text;
+}
+
 EngineText membershipSizeText(const Membership& membership) {
   EngineText text;
   TestWriter writer(text);
-  if (!isUnique(membership.inner)) {
-    text.sql = writer.allOf(membership);
-    return text;
+  std::string rows = isUnique(membership.inner) ? std::string() : writer.allOf(membership);
+  if (rows.empty()) {
+    // Where each row has at most one, as a recipe has one course, the rows that have it are what counts.
+    rows = "SELECT 1 FROM " + TestWriter::nameOf(*membership.outer.table) + " INDEXED BY " +
+           std::string(indexOn(membership.outer)->name) + " WHERE " + writer.gathered(membership);
   }
-  // Where each row has at most one, as a recipe has one course, the rows that have it are what counts.
-  text.sql = "SELECT 1 FROM " + TestWriter::nameOf(*membership.outer.table) + " INDEXED BY " +
-             std::string(indexOn(membership.outer)->name) + " WHERE " + writer.gathered(membership);
+  const std::string limit = "?" + plainText(static_cast<long>(text.parameters.size()) + 1);
+  text.sql = "SELECT count(*) FROM (" + rows + " LIMIT " + limit + ")";
   return text;
 }
 
@@ -313,12 +336,17 @@ EngineText rowSearchText(const RowSearch& search, std::size_t firstMembership) {
     return text;
   }
   const Membership& first = search.memberships[firstMembership];
-  std::vector<std::string> tests{writer.gathered(first)};
+  // What is tested by the same value, as all sets of recipes by the id, is tested before any row is looked up.
+  std::vector<const Membership*> sameValue;
+  std::vector<const Membership*> others;
+  for (const Membership& other : search.memberships) {
+    if (&other != &first) (other.outer == first.outer && !isUnique(other.inner) ? sameValue : others).push_back(&other);
+  }
+  std::vector<std::string> tests{first.outer.text() + " IN (" + writer.allOf(first, sameValue) + ")"};
   const auto add = [&](std::vector<std::string> more) { std::ranges::move(more, std::back_inserter(tests)); };
   add(writer.conditions(search.conditions, *search.table, false));
-  for (const Membership& other : search.memberships) {
-    if (&other == &first) continue;
-    tests.push_back(isUnique(other.inner) ? writer.gathered(other) : writer.probed(other));
+  for (const Membership* other : others) {
+    tests.push_back(isUnique(other->inner) ? writer.gathered(*other) : writer.probed(*other, other->outer.text()));
   }
   add(writer.conditions(search.conditions, *search.table, true));
   text.sql = start + " INDEXED BY " + std::string(indexOn(first.outer)->name) + TestWriter::joined(tests, " WHERE ");

@@ -35,8 +35,14 @@ struct RowSearch {
 /// that has an index.
 [[nodiscard]] std::optional<RowSearch> makeRowSearch(SqlSelect select);
 
-/// Text that gives the rows which decide how much work a membership is when the search starts from it: the more there
-/// are, the more work. Their values are of no interest.
+/// Whether a membership only looks one row up by its key, as a category by its id.
+[[nodiscard]] bool isLookUp(const Membership& membership);
+
+/// Text that gives the values, in the inner column, which satisfy the membership.
+[[nodiscard]] EngineText memberValuesText(const Membership& membership);
+
+/// Text that counts the rows which decide how much work a membership is when the search starts from it: the more there
+/// are, the more work. The parameter behind the text's own ones limits how far it counts.
 [[nodiscard]] EngineText membershipSizeText(const Membership& membership);
 
 /// Text that gives the numbers of the rows that the search finds, each once, in no order. It starts from the given one
