@@ -6,6 +6,10 @@ namespace pantrigo {
 
 namespace {
 
+constexpr std::string_view pictureHint =
+    "Double click mouse here to display a scanned image with this recipe. Note, the image must be in Windows Bitmap "
+    "format and the file name must have a .bmp extension, e.g. satay.bmp.";
+
 enum class Arrangement { WithPicture, WithoutPicture };
 
 /// What the frames below the tool bar move up by, and the lists grow by, when it is off, in twips at design size.
@@ -120,6 +124,12 @@ void subLayoutNoPicture(Run& run) {
   form.imgPhoto.setVisible(false);
   form.lblPicture.setVisible(false);
   showMovedGroups(run);
+}
+
+void offerPicture(Run& run) {
+  subLayoutNoPicture(run);
+  run.frmDetail.lblPicture.setCaption(pictureHint);
+  run.frmDetail.lblPicture.setVisible(true);
 }
 
 }  // namespace pantrigo

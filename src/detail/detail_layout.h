@@ -11,6 +11,9 @@ void layoutWithPicture(Run& run);
 /// the full width. Hides the picture and its hint.
 void subLayoutNoPicture(Run& run);
 
+/// The same, with the hint how to give the recipe a picture.
+void offerPicture(Run& run);
+
 /// Shows the General and Comments groups with all their controls.
 void showMovedGroups(Run& run);
 

@@ -15,11 +15,6 @@ namespace pantrigo {
 
 namespace {
 
-constexpr std::string_view pictureHint =
-    "Double click mouse here to display a scanned image with this recipe. Note, the image must be in Windows Bitmap "
-    "format and the "
-    "file name must have a .bmp extension, e.g. satay.bmp.";
-
 void showTitle(Run& run) {
   const Recordset& recipe = run.GLOBAL.gRecipe;
   run.frmDetail.txtTitle.setForeColor(titleColour(recipe.Field("Meal").truth()));
@@ -32,9 +27,7 @@ void showPicture(Run& run) {
   const std::string fileName = recipeId + ".BMP";
   if (run.files.Dir(fileName).empty()) {
     form.fmePicture.setCaption("");
-    subLayoutNoPicture(run);
-    form.lblPicture.setCaption(pictureHint);
-    form.lblPicture.setVisible(true);
+    offerPicture(run);
     return;
   }
   form.lblPicture.setVisible(false);

@@ -2,6 +2,7 @@
 
 #include <optional>
 
+#include "measures/unit_ladder.h"
 #include "platform/text/letters.h"
 #include "platform/text/numbers.h"
 #include "platform/text/utf8.h"
@@ -77,6 +78,21 @@ void applyBracketedWeight(Run& run, IngredientRow& row) {
   row[1] = weight->milligrams == 1 ? global.gBracketAmount
                                    : plainText(*toNumber(global.gBracketAmount) * weight->milligrams);
   row[2] = "mg";
+}
+
+void convertRowToBase(Run& run, IngredientRow& row, std::string_view mode) {
+  Global& global = run.GLOBAL;
+  const Recordset& system = global.gSystem;
+  global.gRowUnit = row[2];
+  global.gRowQuantity = row[1];
+  Value quantity(global.gRowQuantity);
+  const Value cup = system.Field("Cup");
+  const Value tablespoon = system.Field("Tablespoon");
+  const std::string measurement = system.Field("Measurement").text();
+  subConvertToBase(run, global.gRowUnit, quantity, cup, tablespoon, measurement, mode);
+  global.gRowQuantity = quantity.text();
+  row[2] = global.gRowUnit;
+  row[1] = global.gRowQuantity;
 }
 
 }  // namespace pantrigo

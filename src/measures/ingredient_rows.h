@@ -19,4 +19,8 @@ void readIngredientRows(Run& run, std::string_view memo);
 /// and column 2 "mg". Nothing for a word without one. Uses the bracket fields of the shared state.
 void applyBracketedWeight(Run& run, IngredientRow& row);
 
+/// Brings columns 1 and 2 of a row down to the base unit, by the options; by way of `gRowQuantity` and `gRowUnit`. The
+/// errors of `subConvertToBase`, which leave the row as it was.
+void convertRowToBase(Run& run, IngredientRow& row, std::string_view mode);
+
 }  // namespace pantrigo

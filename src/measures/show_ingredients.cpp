@@ -73,23 +73,6 @@ float scaleFactor(Run& run, std::string_view mode, const Value& makes) {
   return factor;
 }
 
-void convertToBase(Run& run, IngredientRow& row, std::string_view mode) {
-  Global& global = run.GLOBAL;
-  const Recordset& system = global.gSystem;
-  global.gRowUnit = row[2];
-  global.gRowQuantity = row[1];
-  guarded([&] {
-    Value quantity(global.gRowQuantity);
-    const Value cup = system.Field("Cup");
-    const Value tablespoon = system.Field("Tablespoon");
-    const std::string measurement = system.Field("Measurement").text();
-    subConvertToBase(run, global.gRowUnit, quantity, cup, tablespoon, measurement, mode);
-    global.gRowQuantity = quantity.text();
-  });
-  row[2] = global.gRowUnit;
-  row[1] = global.gRowQuantity;
-}
-
 /// From the base amount in columns 1 and 2 to the written quantity and the unit word.
 void writeAmount(Run& run, const IngredientRow& row, float factor) {
   Global& global = run.GLOBAL;
@@ -162,7 +145,7 @@ void showRow(Run& run, IngredientRow& row, std::string_view mode, float factor) 
   }
   row[1] = funFractionToDecimal(row[1]);
   if (run.GLOBAL.gConvertCupSpoon == "1") guarded([&] { applyBracketedWeight(run, row); });
-  convertToBase(run, row, mode);
+  guarded([&] { convertRowToBase(run, row, mode); });
   writeAmount(run, row, factor);
   dressUnit(run, mode);
   putOut(run, row, mode);

@@ -1,9 +1,11 @@
 #include "core/messages.h"
 #include "detail/change_tracking.h"
+#include "detail/delete_recipe.h"
 #include "detail/detail_window.h"
 #include "detail/find_recipe.h"
 #include "detail/ingredient_list.h"
 #include "detail/navigation.h"
+#include "detail/save_recipe.h"
 #include "detail/settings.h"
 #include "detail/source.h"
 #include "detail/toggle_meal.h"
@@ -19,6 +21,9 @@ constexpr MenuCommand<FrmDetail> menuCommands[] = {
     {&FrmDetail::mnuExit, leaveDetail},
     {&FrmDetail::mnuClear, clearRecipe},
     {&FrmDetail::mnuFind, subFindRecipe},
+    {&FrmDetail::mnuAdd, subAddRecipe},
+    {&FrmDetail::mnuUpdate, subUpdateRecipe},
+    {&FrmDetail::mnuDelete, subDeleteRequest},
     {&FrmDetail::mnuFirst, subFirstRecipe},
     {&FrmDetail::mnuPrevious, subPreviousRecipe},
     {&FrmDetail::mnuNext, subNextRecipe},
@@ -41,6 +46,22 @@ constexpr ToolCommand<FrmDetail> toolCommands[] = {
     {"Meal", &FrmDetail::mnuMeal},     {"Oven", &FrmDetail::mnuOven},         {"Exit", &FrmDetail::mnuExit},
 };
 
+/// A category's label and its menu entry, either of which opens the dialog of that kind.
+struct CategoryEntry {
+  Label FrmDetail::*label;
+  MenuEntry FrmDetail::*entry;
+  std::string_view kind;
+};
+
+constexpr CategoryEntry categoryEntries[] = {
+    {&FrmDetail::lblNationality, &FrmDetail::mnuCategoriesNationality, "Nationality"},
+    {&FrmDetail::lblCourse, &FrmDetail::mnuCategoriesCoarse, "Course"},
+    {&FrmDetail::lblCooking, &FrmDetail::mnuCategoriesCooking, "Cooking"},
+    {&FrmDetail::lblEase, &FrmDetail::mnuCategoriesEase, "Ease"},
+    {&FrmDetail::lblHealth, &FrmDetail::mnuCategoriesHealth, "Health"},
+    {&FrmDetail::lblOther, &FrmDetail::mnuCategoriesOther, "Other"},
+};
+
 void tbDetail_ButtonClick(Run& run, const std::string& key) {
   if (key == "Help") subShowHelp(run, helpDetail);
   pressToolButton<FrmDetail>(run.frmDetail, toolCommands, key);
@@ -59,6 +80,18 @@ void wireChanges(Run& run) {
   form.lstHealth.Click = [&run] { lstHealth_Click(run); };
   form.lstOther.Click = [&run] { lstOther_Click(run); };
   form.lblServes.Click = [&run] { lblServes_Click(run); };
+}
+
+void wireCategories(Run& run) {
+  for (const CategoryEntry& category : categoryEntries) {
+    const auto show = [&run, kind = category.kind] {
+      run.GLOBAL.gCategoryCaller = run.frmDetail.Name();
+      run.GLOBAL.gCategoryTable = kind;
+      run.windows.ShowModal(run.frmCategory);
+    };
+    (run.frmDetail.*category.label).Click = show;
+    (run.frmDetail.*category.entry).Click = show;
+  }
 }
 
 void wireIngredients(Run& run) {
@@ -81,6 +114,7 @@ void wireFrmDetail(Run& run) {
   form.fmeTitle.Click = [&run] { subSource(run); };
   wireChanges(run);
   wireIngredients(run);
+  wireCategories(run);
   for (const MenuCommand<FrmDetail>& command : menuCommands) {
     (form.*command.entry).Click = [&run, routine = command.routine] { routine(run); };
   }

@@ -1,6 +1,7 @@
 #include "support/global_routines.h"
 
 #include "core/messages.h"
+#include "detail/matches_filters.h"
 #include "exchange/clean_title.h"
 #include "measures/quantity.h"
 #include "measures/show_ingredients.h"
@@ -140,6 +141,14 @@ int showIngredients(lua_State* lua, ScenarioCase& scenario) {
   return 0;
 }
 
+int matchesFilters(lua_State* lua, ScenarioCase& scenario) {
+  Run& run = scenario.run();
+  FilterVerdict verdict = FilterVerdict::NoFilter;
+  scenario.act(lua, [&] { verdict = funMatchesFilters(run); });
+  lua_pushinteger(lua, static_cast<int>(verdict));
+  return 1;
+}
+
 constexpr luaL_Reg routines[] = {
     {"funEscapeQuote", withoutRun<escapeQuote>},
     {"funFractionToDecimal", withoutRun<fractionToDecimal>},
@@ -155,6 +164,7 @@ constexpr luaL_Reg routines[] = {
     {"subConvertSystem", withinCase<convertSystem>},
     {"subClimbLadder", withinCase<climbLadder>},
     {"subShowIngredients", withinCase<showIngredients>},
+    {"funMatchesFilters", withinCase<matchesFilters>},
     {nullptr, nullptr},
 };
 

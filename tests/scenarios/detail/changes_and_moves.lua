@@ -310,3 +310,26 @@ case("a message box is no activation", function()
   frmDetail:Key(27)
   equal(frmDetail.txtServes.Text, "9")
 end)
+
+case("a click on the label of a category, or its menu entry, opens the maintenance of that kind", function()
+  store.create()
+  store.add("Recipe", { RecipeId = 1, Title = "Apple Pie" })
+  start()
+  frmBrowse.lstTitles:DblClick(0)
+  local kinds = { Nationality = "Nationality", Course = "Coarse", Cooking = "Cooking", Ease = "Ease", Health = "Health", Other = "Other" }
+  local seen = 0
+  local function look(kind)
+    return function()
+      seen = seen + 1
+      equal(GLOBAL.gCategoryCaller, "frmDetail")
+      equal(GLOBAL.gCategoryTable, kind)
+    end
+  end
+  for kind, entry in pairs(kinds) do
+    modal("frmCategory", look(kind))
+    frmDetail["lbl" .. kind]:Click()
+    modal("frmCategory", look(kind))
+    frmDetail["mnuCategories" .. entry]:Click()
+  end
+  equal(seen, 12)
+end)
