@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "core/recipes.h"
+
 namespace pantrigo {
 
 namespace {
@@ -49,6 +51,23 @@ std::string categoryDescription(Global& global, const CategoryKind& kind, const 
   categories.Index(kind.idIndex);
   categories.Seek("=", id);
   return categories.NoMatch() ? std::string() : categories.Field("Description").text();
+}
+
+bool seekCategory(Global& global, const CategoryKind& kind, std::string_view description) {
+  Recordset& categories = global.*kind.cursor;
+  categories.Index(kind.descriptionIndex);
+  categories.Seek("=", description);
+  return !categories.NoMatch();
+}
+
+Value addCategory(Global& global, const CategoryKind& kind, std::string_view description) {
+  const Value id = giveId(global, kind.idField);
+  Recordset& categories = global.*kind.cursor;
+  categories.AddNew();
+  categories.Set(kind.idField, id);
+  categories.Set("Description", description);
+  categories.Update();
+  return id;
 }
 
 void addToBrowse(Run& run, const CategoryKind& kind, std::string_view description) {

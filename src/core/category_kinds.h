@@ -50,6 +50,14 @@ inline constexpr std::size_t categoryKindCount = 6;
 /// The description of a category by its id; empty for Null and for an id whose row is missing.
 [[nodiscard]] std::string categoryDescription(Global& global, const CategoryKind& kind, const Value& id);
 
+/// Puts the kind's cursor on the category of that description; gives whether there is one. Letter case and trailing
+/// blanks don't count.
+[[nodiscard]] bool seekCategory(Global& global, const CategoryKind& kind, std::string_view description);
+
+/// Adds a category to the store under the next id of its kind, and gives the id. The counter is stored first, so that a
+/// failure after it leaves a gap.
+Value addCategory(Global& global, const CategoryKind& kind, std::string_view description);
+
 /// Appends a description to the list or combo box of a kind on the main window, respectively on the detail window.
 void addToBrowse(Run& run, const CategoryKind& kind, std::string_view description);
 void addToDetail(Run& run, const CategoryKind& kind, std::string_view description);

@@ -35,8 +35,10 @@ void subShowHelp(Run& run, int context);
 enum HelpContext : int {
   helpContents = 0,
   helpBrowse = 300,
+  helpOptions = 360,
   helpView = 375,
   helpSettings = 380,
+  helpCategory = 390,
   helpDetail = 400,
   helpIngredient = 410,
   helpNutrition = 440,
