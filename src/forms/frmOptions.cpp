@@ -2,8 +2,11 @@
 
 namespace pantrigo {
 
-FrmOptions::FrmOptions() : Form("frmOptions", "System Options", 6000, 3000) {
-  sealDesign();
+FrmOptions::FrmOptions() : Form("frmOptions", "Options", 8670, 5490) {
+  setKeyPreview(true);
+  setDefaultButton(cmdOK);
+  setCancelButton(cmdCancel);
+  sealDesign(&chkShowRecipes);
 }
 
 }  // namespace pantrigo
