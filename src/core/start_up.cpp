@@ -1,8 +1,8 @@
 #include "core/start_up.h"
 
 #include "core/category_kinds.h"
-#include "core/colours.h"
 #include "core/layout.h"
+#include "core/title_rows.h"
 
 namespace pantrigo {
 
@@ -28,11 +28,9 @@ void openCategories(Run& run) {
 
 void listAllTitles(Run& run) {
   Recordset& recipes = run.GLOBAL.gRecipe;
-  ListBox& titles = run.frmBrowse.lstTitles;
   for (; !recipes.Eof(); recipes.MoveNext()) {
-    titles.AddItem(recipes.Field("Title").text());
-    titles.setRow(titles.ListCount() - 1);
-    titles.setForeColor(titles.Row(), titleRowColours(recipes.Field("Meal").truth()).foreColor);
+    subAddListRow(run, recipes.Field("Title").text(), recipes.Field("Meal").truth(),
+                  run.frmBrowse.lstTitles.ListCount());
   }
 }
 

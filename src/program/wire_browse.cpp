@@ -1,5 +1,7 @@
 #include "browse/browse_window.h"
+#include "browse/filters.h"
 #include "browse/last_import.h"
+#include "browse/list_query.h"
 #include "browse/recipe_commands.h"
 #include "browse/title_list.h"
 #include "core/messages.h"
@@ -30,6 +32,8 @@ constexpr MenuCommand<FrmBrowse> menuCommands[] = {
     {&FrmBrowse::mnuOptions, [](Run& run) { run.windows.ShowModal(run.frmOptions); }},
     {&FrmBrowse::mnuPrintSetup, [](Run& run) { setUpPrinter(run.frmBrowse.CMDialog1); }},
     {&FrmBrowse::mnuViewImportLog, showImportLog},
+    {&FrmBrowse::mnuClear, mnuClear_Click},
+    {&FrmBrowse::mnuFilter, subBuildList},
     {&FrmBrowse::mnuAdd, subOpenBlankDetail},
     {&FrmBrowse::mnuUpdate, subOpenSelected},
     {&FrmBrowse::mnuDelete, subDeleteSelected},
@@ -89,6 +93,23 @@ void wireCategories(Run& run) {
   }
 }
 
+void wireFilters(Run& run) {
+  FrmBrowse& form = run.frmBrowse;
+  form.lblFilters.Click = [&run] {
+    if (!run.frmBrowse.mbBusy) lblFilters_Click(run);
+  };
+  form.chkMeal.Click = [&run] {
+    if (!run.frmBrowse.mbBusy) chkMeal_Click(run);
+  };
+  for (const CategoryKind& kind : categoryKinds()) {
+    if (kind.isLinked()) (form.*kind.browseList).Click = [&form, &kind] { markListLabel(form, kind); };
+  }
+  for (const NumericFilter& filter : numericFilters) {
+    Label& sign = form.*filter.sign;
+    sign.Click = [&sign] { flipSign(sign); };
+  }
+}
+
 }  // namespace
 
 void wireFrmBrowse(Run& run) {
@@ -100,6 +121,7 @@ void wireFrmBrowse(Run& run) {
   form.Unload = [&run] { frmBrowse_Unload(run); };
   wireList(run);
   wireCategories(run);
+  wireFilters(run);
   for (const MenuCommand<FrmBrowse>& command : menuCommands) {
     (form.*command.entry).Click = [&run, routine = command.routine] {
       if (!run.frmBrowse.mbBusy) routine(run);
