@@ -108,7 +108,6 @@ RowsCursor::RowsCursor(std::shared_ptr<Database::State> state, const TableDescri
     : CountedCursor(std::move(state), std::move(fields), rowNumbers.size()),
       table_(table),
       rowNumbers_(std::move(rowNumbers)),
-      reader_(table),
       readerRow_(noRow) {
   for (const FieldDescription& field : this->fields()) tableFields_.push_back(findField(table, field.name));
 }

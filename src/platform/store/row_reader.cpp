@@ -11,6 +11,7 @@ const Value& RowReader::field(TableAccess& access, int field) {
     stamp_ = access.changeNumber();
   }
   if ((known_ & fieldBit(field)) == 0) {
+    values_.resize(access.table().fields.size());
     const FieldSet read = access.read(rowNumber_, field, values_);
     if (read == 0) throw RuntimeError(store_error::recordDeleted);
     known_ |= read;

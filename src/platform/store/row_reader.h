@@ -10,8 +10,6 @@ namespace pantrigo {
 /// Reads the fields of one row at first use and keeps them for as long as the table does not change.
 class RowReader {
  public:
-  explicit RowReader(const TableDescription& table) : values_(table.fields.size()) {}
-
   /// Chooses the row; nothing is read yet.
   void place(std::int64_t rowNumber) {
     rowNumber_ = rowNumber;
@@ -26,6 +24,8 @@ class RowReader {
   FieldSet known_ = 0;
   /// The table's change number when the known fields were read.
   std::uint64_t stamp_ = 0;
+  /// One a field of the table, once a field was read: many cursors never get here, since their order brings what they
+  /// are asked for.
   std::vector<Value> values_;
 };
 

@@ -42,6 +42,9 @@ constexpr IndexDescription recipeIndexes[] = {
     {"RecipeIdxMeal", {"Meal", ""}, duplicates, ""},
 };
 
+/// What a list shows of each recipe.
+constexpr std::string_view recipeCompanions[] = {"Title", "Meal"};
+
 /// What the six category tables have in common: an id and a description, and an index on each. The category lists read
 /// both fields from the index of the descriptions.
 struct CategoryTable {
@@ -89,7 +92,7 @@ constexpr FieldDescription systemFields[] = {
 };
 
 constexpr TableDescription tables[] = {
-    {"Recipe", recipeFields, recipeIndexes},
+    {"Recipe", recipeFields, recipeIndexes, recipeCompanions},
     {"Nationality", nationality.fields, nationality.indexes},
     {"Course", course.fields, course.indexes},
     {"Cooking", cooking.fields, cooking.indexes},

@@ -28,6 +28,8 @@ struct TableDescription {
   std::string_view name;
   std::span<const FieldDescription> fields;
   std::span<const IndexDescription> indexes;
+  /// Fields that nearly every walk through an index asks for: they are read along with a row's place.
+  std::span<const std::string_view> companions = {};
 };
 
 /// All eleven tables, in the order in which a new store is made.

@@ -21,6 +21,15 @@ TableAccess::TableAccess(Connection& connection, const TableDescription& table)
   }
 }
 
+const std::vector<Entry>& TableAccess::firstRow() {
+  if (firstRowStamp_ != changeNumber_) {
+    firstRow_.clear();
+    physicalOrder().readFirst(1, firstRow_);
+    firstRowStamp_ = changeNumber_;
+  }
+  return firstRow_;
+}
+
 WalkOrder& TableAccess::order(std::string_view indexName) {
   const auto found = std::find_if(orders_.begin() + 1, orders_.end(), [indexName](const auto& order) {
     return isSameName(order->index()->name, indexName);

@@ -31,6 +31,10 @@ class TableAccess {
   /// The order of a named index. Error 3015 for an unknown name.
   [[nodiscard]] WalkOrder& order(std::string_view indexName);
 
+  /// The first row of physical order; empty when the table is. Kept until the table changes, since every new cursor
+  /// begins there.
+  [[nodiscard]] const std::vector<Entry>& firstRow();
+
   [[nodiscard]] std::uint64_t changeNumber() const { return changeNumber_; }
   /// To be called around every change of the table's rows that is not made by this object.
   void beforeRemoval() { static_cast<void>(highestRowNumber()); }
@@ -62,6 +66,10 @@ class TableAccess {
   /// What `highestRowNumber` gives, once known. A number is not given twice, or a cursor on a removed row would find
   /// itself on a new one.
   std::optional<std::int64_t> lastRowNumber_;
+
+  std::vector<Entry> firstRow_;
+  /// The change number at which it was read.
+  std::uint64_t firstRowStamp_ = 0;
 
   /// All fields but the memos.
   std::vector<int> shortFields_;

@@ -19,9 +19,11 @@ constexpr std::size_t largestBatch = 128;
 }  // namespace
 
 TableCursor::TableCursor(std::shared_ptr<Database::State> state, const TableDescription& table)
-    : state_(std::move(state)), table_(table), row_(table) {
-  order_ = &access().physicalOrder();
-  moveFirst();
+    : state_(std::move(state)), table_(table) {
+  TableAccess& access = this->access();
+  order_ = &access.physicalOrder();
+  entries_ = access.firstRow();
+  standOnFirstEntry(access);
 }
 
 int TableCursor::fieldPlace(std::string_view name) const {

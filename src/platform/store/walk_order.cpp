@@ -1,5 +1,6 @@
 #include "platform/store/walk_order.h"
 
+#include <algorithm>
 #include <limits>
 
 #include "platform/store/field_values.h"
@@ -39,6 +40,10 @@ WalkOrder::WalkOrder(Connection& connection, const TableDescription& table, cons
   if (index != nullptr) {
     for (const std::string_view name : {index->keyFields[0], index->keyFields[1], index->carried}) {
       if (!name.empty()) fields_.push_back(findField(table, name));
+    }
+    for (const std::string_view name : table.companions) {
+      const int field = findField(table, name);
+      if (std::ranges::find(fields_, field) == fields_.end()) fields_.push_back(field);
     }
     keyCount_ = index->keyFields[1].empty() ? 1 : 2;
   } else if (table.fields.size() <= mostSlots && !hasMemo(table)) {

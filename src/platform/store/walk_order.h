@@ -14,7 +14,7 @@ namespace pantrigo {
 /// Most key fields of an index.
 inline constexpr int mostKeys = 2;
 /// Most fields that are read along with a row's place.
-inline constexpr int mostSlots = mostKeys + 1;
+inline constexpr int mostSlots = mostKeys + 2;
 
 using Key = std::array<Value, mostKeys>;
 
