@@ -224,3 +224,11 @@ case("what is typed counts, not what is stored", function()
   frmDetail.txtComments:Type("Better hot.")
   equal(matches(), yes)
 end)
+
+case("a nutrition filter that is no number is an error, and only behind the store", function()
+  shown()
+  frmBrowse.txtFat.Text = "abc"
+  frmDetail.txtComments:Type("Better hot.")
+  equal(fails(function() frmDetail.mnuUpdate:Click() end), { number = 13, text = "Type mismatch" })
+  equal(store.row("Recipe", "RecipeId", 1).Comment, "Better hot.")
+end)
