@@ -105,6 +105,55 @@ TEST(Collation, SpellsSharpSAndLigaturesOut) {
   expectOrder("Cæ", "Caf", -1);
 }
 
+TEST(Collation, SortsLettersOfTheNorthBehindZ) {
+  const std::vector<std::string> rising = {"daz",     "d\u00E9z", "\u00F0a", "eb",      "oz",      "p",      "zz",
+                                           "\u017Ez", "\u00FEa",  "\u00FEz", "\u00F8a", "\u01FFa", "\u00F8z"};
+  for (std::size_t i = 0; i < rising.size(); ++i) {
+    for (std::size_t j = i + 1; j < rising.size(); ++j) expectOrder(rising[i], rising[j], -1);
+  }
+  expectOrder("\u00D8L", "\u00F8l", 0);
+  expectOrder("\u00DEORN", "\u00FEorn", 0);
+  expectOrder("\u00F0", "\u00D0", 0);
+  expectOrder("9", "\u00F8", -1);
+  expectOrder("\u00F8", "o", 1);
+}
+
+TEST(Collation, SortsAccentsInTheirOrder) {
+  const std::vector<std::vector<std::string>> orders = {
+      {"a", "\u00E0", "\u00E1", "\u00E2", "\u00E4", "\u00E3", "\u00E5", "a\u0327", "\u01CE"},
+      {"e", "\u00E8", "\u00E9", "\u00EA", "\u00EB", "\u1EBD", "\u0229", "\u011B"},
+      {"n", "\u01F9", "\u0144", "\u00F1", "\u0146", "\u0148"},
+      {"C", "\u0106", "\u0108", "\u00C7", "\u010C"},
+      {"Creme", "Cr\u00E8me", "Cr\u00E9me", "Cr\u00EAme", "Cremes"},
+  };
+  for (const std::vector<std::string>& rising : orders) {
+    for (std::size_t i = 0; i < rising.size(); ++i) {
+      for (std::size_t j = i + 1; j < rising.size(); ++j) expectOrder(rising[i], rising[j], -1);
+    }
+  }
+}
+
+TEST(Collation, ComparesAccentsFromTheLeft) {
+  expectOrder("c\u00F4te", "cot\u00E9", 1);
+  expectOrder("p\u00E8ch\u00E9", "p\u00E9che", -1);
+  expectOrder("\u00E9a", "eb", -1);
+}
+
+TEST(Collation, TakesAccentsAsEqualHoweverTheyAreWritten) {
+  for (const auto& [composed, parts] : std::vector<std::pair<std::string, std::string>>{{"\u00E8", "e\u0300"},
+                                                                                        {"\u00E9", "e\u0301"},
+                                                                                        {"\u00EA", "e\u0302"},
+                                                                                        {"\u00EB", "e\u0308"},
+                                                                                        {"\u00F1", "n\u0303"},
+                                                                                        {"\u00E5", "a\u030A"},
+                                                                                        {"\u00E7", "c\u0327"},
+                                                                                        {"\u010D", "c\u030C"},
+                                                                                        {"\u01FF", "\u00F8\u0301"},
+                                                                                        {"\u1EC7", "e\u0323\u0302"}}) {
+    expectOrder(composed, parts, 0);
+  }
+}
+
 TEST(Collation, SortsBlanksAndMarksBeforeDigitsBeforeLetters) {
   for (const char mark : std::string(" !\"#$%&'()*+,-./:;<=>?@[\\]^_`{|}~")) {
     const std::string text = std::string(1, mark) + "x";
