@@ -5,7 +5,7 @@
 #include <string>
 
 #include "platform/store/database.h"
-#include "platform/store/raw_rows.h"
+#include "support/raw_rows.h"
 
 namespace pantrigo {
 

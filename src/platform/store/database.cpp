@@ -46,4 +46,12 @@ void Database::setDurability(Durability durability) {
   StoreAccess::state(*this).setDurability(durability);
 }
 
+void Database::enterCheckpointScope() {
+  StoreAccess::state(*this).enterCheckpointScope();
+}
+
+void Database::leaveCheckpointScope() {
+  StoreAccess::state(*this).leaveCheckpointScope();
+}
+
 }  // namespace pantrigo

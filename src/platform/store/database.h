@@ -51,6 +51,11 @@ class Database {
   enum class Durability { EachUpdate, AtCheckpoint };
   void setDurability(Durability durability);
 
+  /// The same for a scope that may lie within another: the outermost one switches. Errors of `setDurability`; the scope
+  /// has ended all the same when its end fails.
+  void enterCheckpointScope();
+  void leaveCheckpointScope();
+
   struct State;
 
  private:

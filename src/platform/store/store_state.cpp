@@ -47,6 +47,15 @@ void Database::State::setDurability(Durability durability) {
   checkResult(sqlite3_wal_checkpoint_v2(connection().handle(), nullptr, SQLITE_CHECKPOINT_TRUNCATE, nullptr, nullptr));
 }
 
+void Database::State::enterCheckpointScope() {
+  if (checkpointScopes_ == 0) setDurability(Durability::AtCheckpoint);
+  ++checkpointScopes_;
+}
+
+void Database::State::leaveCheckpointScope() {
+  if (--checkpointScopes_ == 0) setDurability(Durability::EachUpdate);
+}
+
 void Database::State::close() {
   if (!connection_) return;
   tables_.clear();

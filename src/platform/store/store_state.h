@@ -25,6 +25,8 @@ struct Database::State {
   [[nodiscard]] TableAccess& access(const TableDescription& table) const;
 
   void setDurability(Durability durability);
+  void enterCheckpointScope();
+  void leaveCheckpointScope();
   void close();
 
  private:
@@ -32,6 +34,7 @@ struct Database::State {
   /// In the order of `storeTables`.
   std::vector<std::unique_ptr<TableAccess>> tables_;
   Durability durability_ = Durability::EachUpdate;
+  int checkpointScopes_ = 0;
 };
 
 /// The way to the state of an open database for the other parts of the store.

@@ -8,7 +8,7 @@
 #include <string_view>
 #include <vector>
 
-#include "platform/store/raw_rows.h"
+#include "support/raw_rows.h"
 #include "program/program.h"
 #include "support/quiet_toolkit.h"
 #include "support/scratch_folder.h"

@@ -66,7 +66,8 @@ TEST(PlainRun, AllCasesOfAllLettersAreFound) {
     const char32_t folded = foldCase(character);
     if (folded == character) continue;
     const std::string text = "a" + encodeUtf8({&character, 1}) + "b";
-    ASSERT_TRUE(LikePattern("*a" + encodeUtf8({&folded, 1}) + "b*").matches(text)) << static_cast<std::uint32_t>(character);
+    ASSERT_TRUE(LikePattern("*a" + encodeUtf8({&folded, 1}) + "b*").matches(text))
+        << static_cast<std::uint32_t>(character);
   }
 }
 

@@ -11,8 +11,8 @@
 #include <vector>
 
 #include "platform/store/database.h"
-#include "platform/store/raw_rows.h"
 #include "platform/text/errors.h"
+#include "support/raw_rows.h"
 
 namespace pantrigo {
 

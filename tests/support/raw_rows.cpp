@@ -1,4 +1,4 @@
-#include "platform/store/raw_rows.h"
+#include "support/raw_rows.h"
 
 #include <cstdint>
 
