@@ -41,7 +41,7 @@ bool funListTick(Run& run, long& rowCount) {
   ++rowCount;
   if (rowCount % rowsBetweenTurns == 0) {
     run.frmBrowse.fmeList.setCaption(listCountCaption(run));
-    run.frmBrowse.Refresh();
+    // The turn paints the caption.
     run.loop.DoEvents();
   }
   return std::exchange(run.frmBrowse.mbStop, false);
