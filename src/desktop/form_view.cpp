@@ -307,12 +307,14 @@ void FormView::showFocus() {
 
 void FormView::refresh() {
   repaint();
-  if (!isVisible()) return;
+  if (!isVisible() || isMinimized() || windowHandle() == nullptr) return;
   QElapsedTimer waited;
   waited.start();
-  do {
+  // Only a window that has just been shown waits. A turn without input, which the toolkit then lays aside until
+  // something else happens, would keep a press of Stop from a routine that refreshes in each of its rounds.
+  while (!windowHandle()->isExposed() && waited.elapsed() < exposureTime) {
     QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents, exposureTime / 10);
-  } while (windowHandle() != nullptr && !windowHandle()->isExposed() && waited.elapsed() < exposureTime);
+  }
 }
 
 // What a person does.
