@@ -13,14 +13,18 @@ std::vector<Control*> firstPage(FrmBrowse& form) {
           &form.lstOther,       &form.chkMeal};
 }
 
-std::vector<Control*> continuedPage(FrmBrowse& form) {
-  std::vector<Control*> page{&form.lblSource, &form.txtSource, &form.lblTimeTo};
-  bool nutrients = false;
+void addNumbers(FrmBrowse& form, bool times, std::vector<Control*>& page) {
   for (const NumericFilter& filter : numericFilters) {
-    if (!filter.isTime && !nutrients) page.push_back(&form.lblNutrition);
-    nutrients = !filter.isTime;
+    if (filter.isTime != times) continue;
     page.insert(page.end(), {&(form.*filter.caption), &(form.*filter.sign), &(form.*filter.box)});
   }
+}
+
+std::vector<Control*> continuedPage(FrmBrowse& form) {
+  std::vector<Control*> page{&form.lblSource, &form.txtSource, &form.lblTimeTo};
+  addNumbers(form, true, page);
+  page.push_back(&form.lblNutrition);
+  addNumbers(form, false, page);
   page.insert(page.end(), {&form.lblComments, &form.txtComments, &form.lblMethod, &form.txtMethod});
   return page;
 }
