@@ -9,6 +9,7 @@
 #include <QLineEdit>
 #include <QMenuBar>
 #include <QScopedValueRollback>
+#include <QShortcut>
 #include <QVBoxLayout>
 #include <QWindow>
 #include <algorithm>
@@ -100,6 +101,8 @@ FormView::FormView(Form& form, ViewHost& host)
   } else {
     setUpDialog();
   }
+  connect(new QShortcut(QKeySequence::HelpContents, this), &QShortcut::activated, this,
+          [this] { host_.helpWanted(form_); });
   showPointer();
   form.setListener(this);
   showFocus();
@@ -197,7 +200,8 @@ void FormView::setUpDialog() {
   } else {
     setFixedSize(designSize());
   }
-  move(area.centred(size()));
+  const double spare = area.size().height - form_.Height();
+  move(area.centred(size(), spare > 0 ? form_.Top() / spare : 0));
 }
 
 void FormView::arrange() {

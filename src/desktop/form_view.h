@@ -18,6 +18,8 @@ class ViewHost : public UserEvents {
   [[nodiscard]] virtual ScreenArea area() const = 0;
   /// The system made this form's window the active one.
   virtual void windowActivated(Form& form) = 0;
+  /// The person asks for the help of this form's window.
+  virtual void helpWanted(const Form& form) = 0;
 };
 
 /// The window of one form: its menu bar, and its controls at their places in twips, multiplied by the window's present

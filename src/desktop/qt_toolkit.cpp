@@ -108,7 +108,7 @@ void QtToolkit::dropAllViews() {
   views_.clear();
   dropped_.clear();
   for (const QPointer<FormView>& view : std::exchange(going_, {})) delete view;
-  delete help_;
+  help_.reset();
 }
 
 void QtToolkit::activateView(Form& form) {
@@ -116,6 +116,7 @@ void QtToolkit::activateView(Form& form) {
   if (window == nullptr) return;
   expect(window->isActiveWindow() ? nullptr : &form);
   window->activate();
+  if (help_ != nullptr) freeHelp();
 }
 
 void QtToolkit::expect(const Form* form) {
@@ -207,16 +208,27 @@ void QtToolkit::setScreenPointer(int pointer) {
   }
 }
 
-void QtToolkit::showHelp(const HelpCall&) {
-  if (help_ == nullptr) {
-    auto* box = new QMessageBox(QMessageBox::Information, QStringLiteral("Help"),
-                                QStringLiteral("No help pages are installed."), QMessageBox::Ok, activeWindow());
-    box->setAttribute(Qt::WA_DeleteOnClose);
-    box->setWindowModality(Qt::NonModal);
-    help_ = box;
+HelpWindow& QtToolkit::help() {
+  if (help_ == nullptr) help_ = std::make_unique<HelpWindow>(area());
+  freeHelp();
+  return *help_;
+}
+
+void QtToolkit::freeHelp() {
+  QWidget* window = activeWindow();
+  help_->standOver(window != nullptr && window->isModal() ? window : nullptr);
+}
+
+void QtToolkit::showHelp(const HelpCall& call) {
+  if (call.command == helpPartialKey) {
+    help().showSearch();
+  } else {
+    help().showContext(call.context);
   }
-  help_->show();
-  help_->raise();
+}
+
+void QtToolkit::helpWanted(const Form& form) {
+  help().showPageOfWindow(toQt(form.Name()));
 }
 
 void QtToolkit::setUpPrinter(int) {

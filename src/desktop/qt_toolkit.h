@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "desktop/form_view.h"
+#include "desktop/help_window.h"
 #include "desktop/qt_printer.h"
 #include "platform/controls/toolkit.h"
 
@@ -38,6 +39,9 @@ class QtToolkit : public Toolkit, private ViewHost {
   /// Lets all views go at once; the forms may go after it.
   void dropAllViews();
 
+  /// The window of the help; null before it was asked for.
+  [[nodiscard]] HelpWindow* helpWindow() const { return help_.get(); }
+
   /// The view of a form; null when it has none.
   [[nodiscard]] FormView* view(const Form& form) const;
 
@@ -61,6 +65,7 @@ class QtToolkit : public Toolkit, private ViewHost {
   [[nodiscard]] int modalWaits() const override { return modalWaits_; }
   [[nodiscard]] ScreenArea area() const override;
   void windowActivated(Form& form) override;
+  void helpWanted(const Form& form) override;
   void expect(const Form* form);
 
   /// After an event: ends what the end of the run has made pointless, and lets dropped views go.
@@ -68,6 +73,10 @@ class QtToolkit : public Toolkit, private ViewHost {
   /// Shows a dialog of the system's over the active window and waits for its result.
   int run(QDialog& dialog);
   [[nodiscard]] QWidget* activeWindow() const;
+  /// The window of the help, made when it is first asked for.
+  [[nodiscard]] HelpWindow& help();
+  /// Puts the help over the active window where that is a dialog, which would block it otherwise.
+  void freeHelp();
   void tellWhereThePrintWent(const QString& file);
 
   Windows* windows_ = nullptr;
@@ -77,7 +86,7 @@ class QtToolkit : public Toolkit, private ViewHost {
   std::vector<std::unique_ptr<FormView>> dropped_;
   std::vector<QPointer<FormView>> going_;
   std::vector<QDialog*> dialogs_;
-  QPointer<QWidget> help_;
+  std::unique_ptr<HelpWindow> help_;
   int modalWaits_ = 0;
   bool screenPointerSet_ = false;
   bool unattended_ = false;

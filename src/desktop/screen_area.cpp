@@ -34,8 +34,9 @@ QPoint ScreenArea::fitted(QPoint wanted, QSize client) const {
   return {std::max(work.left(), std::min(wanted.x(), right)), std::max(work.top(), std::min(wanted.y(), bottom))};
 }
 
-QPoint ScreenArea::centred(QSize client) const {
-  return area.topLeft() + QPoint((area.width() - client.width()) / 2, (area.height() - client.height()) / 3);
+QPoint ScreenArea::centred(QSize client, double shareAbove) const {
+  const double above = (area.height() - client.height()) * shareAbove;
+  return area.topLeft() + QPoint((area.width() - client.width()) / 2, static_cast<int>(above));
 }
 
 }  // namespace pantrigo

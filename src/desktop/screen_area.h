@@ -30,8 +30,8 @@ struct ScreenArea {
 
   /// Where a window of this client size (logical pixels, menu not counted) goes, so that all of it is in the work area.
   [[nodiscard]] QPoint fitted(QPoint wanted, QSize client) const;
-  /// Centred across, with a third of the free height above.
-  [[nodiscard]] QPoint centred(QSize client) const;
+  /// Centred across, with that share of the free height above.
+  [[nodiscard]] QPoint centred(QSize client, double shareAbove) const;
 };
 
 [[nodiscard]] ScreenArea screenArea(const QRect& workArea);

@@ -14,6 +14,7 @@ struct DialogLayout {
 constexpr DialogLayout layouts[] = {
     {"frmAbout", layOutAbout}, {"frmIngredient", layOutIngredient}, {"frmNutrition", layOutNutrition},
     {"frmOven", layOutOven},   {"frmSettings", layOutSettings},     {"frmSource", layOutSource},
+    {"frmView", layOutView},
 };
 
 }  // namespace

@@ -17,5 +17,6 @@ void layOutNutrition(const FormView& view, QWidget& canvas);
 void layOutOven(const FormView& view, QWidget& canvas);
 void layOutSettings(const FormView& view, QWidget& canvas);
 void layOutSource(const FormView& view, QWidget& canvas);
+void layOutView(const FormView& view, QWidget& canvas);
 
 }  // namespace pantrigo
