@@ -12,9 +12,9 @@ struct DialogLayout {
 };
 
 constexpr DialogLayout layouts[] = {
-    {"frmAbout", layOutAbout}, {"frmIngredient", layOutIngredient}, {"frmNutrition", layOutNutrition},
-    {"frmOven", layOutOven},   {"frmSettings", layOutSettings},     {"frmSource", layOutSource},
-    {"frmView", layOutView},
+    {"frmAbout", layOutAbout},         {"frmCategory", layOutCategory}, {"frmIngredient", layOutIngredient},
+    {"frmNutrition", layOutNutrition}, {"frmOptions", layOutOptions},   {"frmOven", layOutOven},
+    {"frmSettings", layOutSettings},   {"frmSource", layOutSource},
 };
 
 }  // namespace

@@ -12,11 +12,12 @@ bool layOutDialog(const FormView& view, QWidget& canvas);
 
 // One function a dialog, in a file of its own.
 void layOutAbout(const FormView& view, QWidget& canvas);
+void layOutCategory(const FormView& view, QWidget& canvas);
 void layOutIngredient(const FormView& view, QWidget& canvas);
 void layOutNutrition(const FormView& view, QWidget& canvas);
+void layOutOptions(const FormView& view, QWidget& canvas);
 void layOutOven(const FormView& view, QWidget& canvas);
 void layOutSettings(const FormView& view, QWidget& canvas);
 void layOutSource(const FormView& view, QWidget& canvas);
-void layOutView(const FormView& view, QWidget& canvas);
 
 }  // namespace pantrigo

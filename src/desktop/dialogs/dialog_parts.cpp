@@ -50,7 +50,7 @@ QWidget& framed(const FormView& view, std::string_view name, const QWidget& canv
   return card;
 }
 
-void stack(const FormView& view, QWidget& canvas, QWidget& frame, std::initializer_list<std::string_view> buttons) {
+QLayout* buttonLine(const FormView& view, std::initializer_list<std::string_view> buttons) {
   const Widgets widget(view);
   int widest = 0;
   for (const std::string_view name : buttons) widest = std::max(widest, widget(name)->sizeHint().width());
@@ -61,11 +61,15 @@ void stack(const FormView& view, QWidget& canvas, QWidget& frame, std::initializ
     widget(name)->setMinimumWidth(widest);
     row->addWidget(widget(name));
   }
+  return row;
+}
+
+void stack(const FormView& view, QWidget& canvas, QWidget& frame, std::initializer_list<std::string_view> buttons) {
   auto* column = new QVBoxLayout(&canvas);
   column->setContentsMargins(dialogMargin, dialogMargin, dialogMargin, dialogMargin);
   column->setSpacing(dialogGap);
   column->addWidget(&frame);
-  column->addLayout(row);
+  column->addLayout(buttonLine(view, buttons));
 }
 
 }  // namespace pantrigo

@@ -22,7 +22,10 @@ QWidget& boxOfWidth(const Widgets& widget, std::string_view name, const QWidget&
 /// The frame over its filled layout: margins with room for the caption above, and no narrower than the caption.
 QWidget& framed(const FormView& view, std::string_view name, const QWidget& canvas, QLayout& contents);
 
-/// The dialog: its frame, and below it the buttons, all as wide as the widest, in their order from the left.
+/// A line with the buttons at its right end, all as wide as the widest, in their order from the left.
+QLayout* buttonLine(const FormView& view, std::initializer_list<std::string_view> buttons);
+
+/// The dialog: its frame, and below it the line with the buttons.
 void stack(const FormView& view, QWidget& canvas, QWidget& frame, std::initializer_list<std::string_view> buttons);
 
 }  // namespace pantrigo
