@@ -12,11 +12,7 @@ namespace {
 /// Whether the box of a single-valued kind holds a text that is no category of it. An empty box is no text.
 bool funNoSuchCategory(Run& run, const CategoryKind& kind) {
   const std::string& description = (run.frmDetail.*kind.detailCombo).Text();
-  if (description.empty()) return false;
-  Recordset& categories = run.GLOBAL.*kind.cursor;
-  categories.Index(kind.descriptionIndex);
-  categories.Seek("=", description);
-  if (!categories.NoMatch()) return false;
+  if (description.empty() || seekCategory(run.GLOBAL, kind, description)) return false;
   run.loop.MsgBox(std::string(kind.name) +
                       " category does not exist.  Please select from existing list or add new category, then try "
                       "again.",

@@ -15,16 +15,15 @@ namespace {
 /// Kilojoules in one of the calories that a person types.
 constexpr double kilojoulesPerCalorie = 4.1868;
 
+/// The id of a category by its description, which was checked before the save. Error 3021 for one that has gone.
+Value categoryId(Global& global, const CategoryKind& kind, const std::string& description) {
+  static_cast<void>(seekCategory(global, kind, description));
+  return (global.*kind.cursor).Field(kind.idField);
+}
+
 void storeCategory(Run& run, const CategoryKind& kind) {
   const std::string& description = (run.frmDetail.*kind.detailCombo).Text();
-  Value id;
-  if (!description.empty()) {
-    Recordset& categories = run.GLOBAL.*kind.cursor;
-    categories.Index(kind.descriptionIndex);
-    categories.Seek("=", description);
-    id = categories.Field(kind.idField);
-  }
-  run.GLOBAL.gRecipe.Set(kind.name, id);
+  run.GLOBAL.gRecipe.Set(kind.name, description.empty() ? Value() : categoryId(run.GLOBAL, kind, description));
 }
 
 /// A recipe that comes to serve another number is scaled anew, so that the lines on show follow.
@@ -51,15 +50,13 @@ void storeLinks(Run& run, const CategoryKind& kind) {
   deleteRowsOfRecipe(global, kind.linkTable, recipeId.text());
   Recordset& links = global.*kind.linkCursor;
   links = global.gDatabase.OpenRecordset(kind.linkTable);
-  Recordset& categories = global.*kind.cursor;
   const ListBox& list = run.frmDetail.*kind.detailList;
   for (int row = 0; row < list.ListCount(); ++row) {
     if (!list.Selected(row)) continue;
-    categories.Index(kind.descriptionIndex);
-    categories.Seek("=", list.List(row));
+    const Value id = categoryId(global, kind, list.List(row));
     links.AddNew();
     links.Set("RecipeId", recipeId);
-    links.Set(kind.idField, categories.Field(kind.idField));
+    links.Set(kind.idField, id);
     links.Update();
   }
 }
