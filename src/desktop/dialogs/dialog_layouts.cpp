@@ -14,7 +14,7 @@ struct DialogLayout {
 constexpr DialogLayout layouts[] = {
     {"frmAbout", layOutAbout},         {"frmCategory", layOutCategory}, {"frmIngredient", layOutIngredient},
     {"frmNutrition", layOutNutrition}, {"frmOptions", layOutOptions},   {"frmOven", layOutOven},
-    {"frmSettings", layOutSettings},   {"frmSource", layOutSource},
+    {"frmSettings", layOutSettings},   {"frmSource", layOutSource},     {"frmView", layOutView},
 };
 
 }  // namespace

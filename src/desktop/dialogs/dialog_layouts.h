@@ -19,5 +19,6 @@ void layOutOptions(const FormView& view, QWidget& canvas);
 void layOutOven(const FormView& view, QWidget& canvas);
 void layOutSettings(const FormView& view, QWidget& canvas);
 void layOutSource(const FormView& view, QWidget& canvas);
+void layOutView(const FormView& view, QWidget& canvas);
 
 }  // namespace pantrigo
