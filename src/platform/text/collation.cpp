@@ -71,8 +71,8 @@ void check(UErrorCode status) {
 }
 
 /// Where our order differs from the common one of Unicode. Eth is a letter of its own in front of e; thorn and the
-/// slashed o stand behind z. Where two texts differ in accents alone, these count in the order grave, acute, circumflex,
-/// diaeresis, tilde, ring, cedilla, caron.
+/// slashed o stand behind z. Where two texts differ in accents alone, these count in the order grave, acute,
+/// circumflex, diaeresis, tilde, ring, cedilla, caron.
 constexpr const char16_t* ownRules =
     u"&[before 1]e<\u00F0<<<\u00D0"
     u"&z<\u00FE<<<\u00DE<\u00F8<<<\u00D8"

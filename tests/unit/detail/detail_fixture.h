@@ -8,9 +8,9 @@
 #include <string_view>
 #include <vector>
 
-#include "support/raw_rows.h"
 #include "program/program.h"
 #include "support/quiet_toolkit.h"
+#include "support/raw_rows.h"
 #include "support/scratch_folder.h"
 
 namespace pantrigo {
