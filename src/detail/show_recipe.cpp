@@ -7,6 +7,7 @@
 #include "detail/detail_layout.h"
 #include "detail/option_labels.h"
 #include "measures/ingredient_rows.h"
+#include "measures/quantity.h"
 #include "measures/show_ingredients.h"
 #include "platform/text/letters.h"
 #include "platform/text/numbers.h"
@@ -116,7 +117,7 @@ void takeNutrition(Run& run) {
   bool given = false;
   for (const NutritionValue& nutrition : nutritionValues) {
     const Value& stored = run.GLOBAL.gRecipe.Field(nutrition.field);
-    const float value = stored.aboveEmpty() ? static_cast<float>(stored.number()) : 0;
+    const float value = stored.aboveEmpty() ? toSingle(stored.number()) : 0;
     run.GLOBAL.*nutrition.value = value;
     given = given || value > 0;
   }
