@@ -32,15 +32,13 @@ bool inTable(const QTextBlock& block) {
 
 void dressHeading(QTextCursor& cursor, int level, int textSize) {
   cursor.select(QTextCursor::BlockUnderCursor);
-  QFont font = cursor.charFormat().font();
-  font.setPixelSize(static_cast<int>(std::lround(textSize * headingSizes[level])));
-  font.setWeight(QFont::DemiBold);
-  QTextCharFormat format;
-  format.setFont(font, QTextCharFormat::FontPropertiesSpecifiedOnly);
-  format.setForeground(level == 1 ? hue::accent : hue::text);
+  QTextCharFormat format = cursor.charFormat();
   // The size in steps that comes with the markup would come on top.
-  format.setProperty(QTextFormat::FontSizeAdjustment, 0);
-  cursor.mergeCharFormat(format);
+  format.clearProperty(QTextFormat::FontSizeAdjustment);
+  format.setProperty(QTextFormat::FontPixelSize, static_cast<int>(std::lround(textSize * headingSizes[level])));
+  format.setFontWeight(QFont::DemiBold);
+  format.setForeground(level == 1 ? hue::accent : hue::text);
+  cursor.setCharFormat(format);
 }
 
 }  // namespace
@@ -48,7 +46,8 @@ void dressHeading(QTextCursor& cursor, int level, int textSize) {
 HelpBrowser::HelpBrowser(QWidget* parent) : QTextBrowser(parent) {
   setObjectName(QStringLiteral("helpPage"));
   setAccessibleName(QStringLiteral("Help page"));
-  setFrameShape(QFrame::NoFrame);
+  setStyleSheet(QStringLiteral("QTextBrowser { background: %1; border: 1px solid %2; border-radius: 4px; }")
+                    .arg(hue::field.name(), hue::line.name()));
   document()->setDocumentMargin(pageMargin);
   connect(this, &QTextBrowser::sourceChanged, this, [this] { dress(); });
 }

@@ -71,6 +71,7 @@ void HelpWindow::layOut() {
   searchBox_->setAccessibleName(QStringLiteral("Search the help"));
   searchBox_->setClearButtonEnabled(true);
   list_->setObjectName(QStringLiteral("helpPages"));
+  list_->setSpacing(2);
   list_->setAccessibleName(QStringLiteral("Pages of the help"));
   result_->setObjectName(QStringLiteral("helpResult"));
   result_->hide();
@@ -182,14 +183,9 @@ void HelpWindow::search() {
   browser_->setWords(words_);
   listPages();
   const int count = static_cast<int>(listed_.size());
-  if (words_.isEmpty()) {
-    result_->clear();
-  } else if (count == 0) {
-    result_->setText(QStringLiteral("No page has that."));
-  } else {
-    result_->setText(count == 1 ? QStringLiteral("1 page has that.")
-                                : QStringLiteral("%1 pages have that.").arg(count));
-  }
+  const QString number = count == 0 ? QStringLiteral("No") : QString::number(count);
+  result_->setText(number + (count == 1 ? QStringLiteral(" page has that.") : QStringLiteral(" pages have that.")));
+  result_->setVisible(!words_.isEmpty());
 }
 
 void HelpWindow::goToNext(bool backwards) {

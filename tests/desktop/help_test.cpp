@@ -1,4 +1,5 @@
 #include <QApplication>
+#include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPushButton>
@@ -262,12 +263,18 @@ TEST_F(HelpTest, TheSearchListsThePagesThatHaveTheWord) {
   EXPECT_TRUE(box().hasFocus());
   QTest::keyClicks(&box(), "fahrenheit");
   ASSERT_EQ(list().count(), 1);
+  auto& result = *help().findChild<QLabel*>("helpResult");
+  EXPECT_TRUE(result.isVisible());
+  EXPECT_EQ(result.text().toStdString(), "1 page has that.");
   EXPECT_EQ(list().item(0)->text().toStdString(), "Oven temperatures");
   EXPECT_EQ(title(), "Welcome to Pantrigo");
   QTest::keyClick(&box(), Qt::Key_Return);
   EXPECT_EQ(title(), "Oven temperatures");
   EXPECT_EQ(marked(), "Fahrenheit");
+  box().setText("oven gallon");
+  EXPECT_EQ(result.text().toStdString(), "No pages have that.");
   box().clear();
+  EXPECT_FALSE(result.isVisible());
   EXPECT_EQ(list().count(), static_cast<int>(HelpPages().all().size()));
 }
 

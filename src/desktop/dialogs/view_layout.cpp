@@ -6,8 +6,8 @@
 namespace pantrigo {
 
 void layOutView(const FormView& view, QWidget& canvas) {
-  /// Room for the longest lines that an import writes, a title and a category behind what was wrong.
-  constexpr int characters = 84;
+  /// Room for most lines that an import writes: a title of any length, and what was wrong with it.
+  constexpr int characters = 104;
   constexpr int rows = 18;
   const Widgets widget(view);
   const QFontMetrics metrics(canvas.font());
