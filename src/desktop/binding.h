@@ -17,9 +17,6 @@ class UserEvents {
 
   /// Runs one event of a person's through the program's dispatcher. Nothing that is thrown inside leaves it.
   virtual void dispatch(const std::function<void(Windows&)>& event) = 0;
-
-  /// Number of modal windows that have been waited for so far.
-  [[nodiscard]] virtual int modalWaits() const = 0;
 };
 
 /// Ties one control to one widget: shows what the control holds, and hands on what a person does to the widget. It sets

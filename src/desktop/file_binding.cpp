@@ -49,6 +49,8 @@ class NameView : public QListWidget {
     setTextElideMode(Qt::ElideRight);
     setEditTriggers(QAbstractItemView::NoEditTriggers);
     setItemDelegate(new IndentedDelegate(this));
+    // As with other lists, a press finds its row before the focus moves.
+    setFocusPolicy(Qt::TabFocus);
   }
 
   /// Shows other names.

@@ -19,7 +19,6 @@
 #include "desktop/accessible_names.h"
 #include "desktop/dialogs/dialog_layouts.h"
 #include "desktop/look.h"
-#include "desktop/row_list.h"
 #include "desktop/text_conversion.h"
 #include "platform/controls/input.h"
 
@@ -300,7 +299,8 @@ void FormView::focusChanged() {
   // What a dialog asks for again, as after a refused entry, is there to be typed over.
   QWidget* widget = widgetOf(*form_.ActiveControl());
   if (auto* box = qobject_cast<QLineEdit*>(widget)) box->selectAll();
-  if (auto* box = qobject_cast<QComboBox*>(widget)) box->lineEdit()->selectAll();
+  auto* combo = qobject_cast<QComboBox*>(widget);
+  if (combo != nullptr && combo->isEditable()) combo->lineEdit()->selectAll();
 }
 
 void FormView::showFocus() {
@@ -344,10 +344,7 @@ void FormView::takeFocus(const Binding& binding, const QFocusEvent& event) {
   const bool byPerson = event.reason() == Qt::MouseFocusReason || event.reason() == Qt::TabFocusReason ||
                         event.reason() == Qt::BacktabFocusReason || event.reason() == Qt::ShortcutFocusReason;
   if (changing_ > 0 || !byPerson) return;
-  const int waits = host_.modalWaits();
   host_.dispatch([&](Windows& windows) { windows.userFocuses(binding.control()); });
-  if (host_.modalWaits() == waits || event.reason() != Qt::MouseFocusReason) return;
-  if (auto* list = dynamic_cast<RowList*>(&binding.widget())) list->dropNextPress();
 }
 
 bool FormView::takeKey(const QKeyEvent& event) {

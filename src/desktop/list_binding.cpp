@@ -50,8 +50,8 @@ class ListBinding : public Binding {
       events().dispatch([&](Windows& windows) { userToggles(windows, list_, row); });
     };
     actions.doubleClicks = [this] { events().dispatch([&](Windows& windows) { userDoubleClicks(windows, list_); }); };
-    actions.pressesBeside = [this] {
-      events().dispatch([&](Windows& windows) { userPresses(windows, list_, leftButton); });
+    actions.presses = [this](MouseButton button) {
+      events().dispatch([&](Windows& windows) { userPresses(windows, list_, button); });
     };
     return actions;
   }

@@ -9,7 +9,10 @@
 #include <QPrintDialog>
 #include <QPushButton>
 #include <QScreen>
+#include <QStorageInfo>
 #include <QTextStream>
+#include <algorithm>
+#include <iterator>
 #include <utility>
 
 #include "desktop/text_conversion.h"
@@ -136,7 +139,6 @@ void QtToolkit::windowActivated(Form& form) {
 // Waiting.
 
 void QtToolkit::waitModal(Form&, const std::function<bool()>& over) {
-  ++modalWaits_;
   while (!over()) QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
 }
 
@@ -195,6 +197,19 @@ ScreenArea QtToolkit::area() const {
 
 ScreenSize QtToolkit::screen() const {
   return area().size();
+}
+
+std::vector<std::string> QtToolkit::drives() const {
+  // The system mounts parts of itself at many places; what a person mounts lies in these folders.
+  const QString folders[] = {QStringLiteral("/media/"), QStringLiteral("/run/media/"), QStringLiteral("/mnt")};
+  std::vector<std::string> drives = {"/"};
+  for (const QStorageInfo& volume : QStorageInfo::mountedVolumes()) {
+    const QString place = volume.rootPath();
+    const bool persons = std::any_of(std::begin(folders), std::end(folders),
+                                     [&](const QString& folder) { return place.startsWith(folder); });
+    if (persons && volume.isReady()) drives.push_back(fromQt(place));
+  }
+  return drives;
 }
 
 void QtToolkit::setScreenPointer(int pointer) {

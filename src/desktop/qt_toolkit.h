@@ -55,6 +55,7 @@ class QtToolkit : public Toolkit, private ViewHost {
   void Beep() override;
   [[nodiscard]] LocalTime Now() const override;
   [[nodiscard]] ScreenSize screen() const override;
+  [[nodiscard]] std::vector<std::string> drives() const override;
   void setScreenPointer(int pointer) override;
   void showHelp(const HelpCall& call) override;
   void setUpPrinter(int flags) override;
@@ -62,7 +63,6 @@ class QtToolkit : public Toolkit, private ViewHost {
   [[nodiscard]] PictureFile LoadPicture(const Files& files, std::string_view name) override;
 
  private:
-  [[nodiscard]] int modalWaits() const override { return modalWaits_; }
   [[nodiscard]] ScreenArea area() const override;
   void windowActivated(Form& form) override;
   void helpWanted(const Form& form) override;
@@ -87,7 +87,6 @@ class QtToolkit : public Toolkit, private ViewHost {
   std::vector<QPointer<FormView>> going_;
   std::vector<QDialog*> dialogs_;
   std::unique_ptr<HelpWindow> help_;
-  int modalWaits_ = 0;
   bool screenPointerSet_ = false;
   bool unattended_ = false;
   /// The form whose window the program has asked to become active, until the system has done so; what the system makes

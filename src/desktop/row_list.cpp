@@ -26,6 +26,8 @@ RowList::RowList(const ListBox& list, ListActions actions, QWidget* parent)
   setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
   setFrameShape(QFrame::NoFrame);
+  // A press finds its row before the focus moves: what the focus raises may change the rows.
+  setFocusPolicy(Qt::TabFocus);
   refresh_.setSingleShot(true);
   refresh_.setInterval(frameTime);
   QObject::connect(&refresh_, &QTimer::timeout, this, [this] {
@@ -75,14 +77,13 @@ void RowList::scrollToRow(int row) {
 }
 
 void RowList::mousePressEvent(QMouseEvent* event) {
-  const bool outOfDate = dropNextPress_;
-  dropNextPress_ = false;
   event->accept();
-  if (outOfDate || event->button() != Qt::LeftButton) return;
+  if (event->button() == Qt::RightButton) actions_.presses(rightButton);
+  if (event->button() != Qt::LeftButton) return;
   takeRows();
   const QModelIndex row = indexAt(event->position().toPoint());
   if (!row.isValid()) {
-    actions_.pressesBeside();
+    actions_.presses(leftButton);
   } else if (list().multiple()) {
     {
       const QScopedValueRollback guard(showing_, true);

@@ -14,12 +14,13 @@ struct ListActions {
   std::function<void(int row)> movesTo;
   std::function<void(int row)> toggles;
   std::function<void()> doubleClicks;
-  std::function<void()> pressesBeside;
+  /// A press of a mouse button that is on no row, or not the left one.
+  std::function<void(MouseButton button)> presses;
 };
 
-/// The list on the screen. It selects nothing by itself: a person's doing goes to the actions, and what is selected
-/// comes back from the list that it shows. Changed rows are taken over together, no more often than a display can show
-/// them.
+/// The list on the screen. It selects nothing by itself and takes no focus with the mouse: a person's doing goes to the
+/// actions, and what is selected and where the focus is comes back from the list that it shows. Changed rows are taken
+/// over together, no more often than a display can show them.
 class RowList : public QListView {
  public:
   RowList(const ListBox& list, ListActions actions, QWidget* parent);
@@ -34,9 +35,6 @@ class RowList : public QListView {
   void showSelection();
   /// Brings the row to the top.
   void scrollToRow(int row);
-
-  /// A press that comes with the focus, but after a dialog that the focus opened, is out of date.
-  void dropNextPress() { dropNextPress_ = true; }
 
  protected:
   void mousePressEvent(QMouseEvent* event) override;
@@ -57,7 +55,6 @@ class RowList : public QListView {
   QTimer refresh_;
   bool showing_ = false;
   bool toTop_ = false;
-  bool dropNextPress_ = false;
 };
 
 }  // namespace pantrigo

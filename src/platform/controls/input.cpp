@@ -121,7 +121,7 @@ void userPicks(Windows& windows, ComboBox& box, int row) {
 }
 
 void userPicks(Windows& windows, ListBox& list, int row) {
-  if (pressed(windows, list, leftButton)) userMovesTo(windows, list, row);
+  if (pressed(windows, list, leftButton) && row < list.ListCount()) userMovesTo(windows, list, row);
 }
 
 void userMovesTo(Windows& windows, ListBox& list, int row) {
@@ -148,7 +148,7 @@ void userMovesTo(Windows& windows, NameList& list, int row) {
 }
 
 void userToggles(Windows& windows, ListBox& list, int row) {
-  if (!pressed(windows, list, leftButton)) return;
+  if (!pressed(windows, list, leftButton) || row >= list.ListCount()) return;
   list.setSelected(row, !list.Selected(row));
   list.Click();
 }

@@ -33,7 +33,8 @@ void userTypes(Windows& windows, TextBox& box, std::string_view text);
 void userTypes(Windows& windows, ComboBox& box, std::string_view text);
 
 /// Picks a row of a combo box, or of a list with single selection (a row that is picked already raises `Click` again
-/// and no `SelChange`).
+/// and no `SelChange`). The row is the one that was under the mouse when it was pressed; where the focus or the press
+/// has taken it away, nothing is picked.
 void userPicks(Windows& windows, ComboBox& box, int row);
 void userPicks(Windows& windows, ListBox& list, int row);
 /// The keyboard moves the selection of a list with single selection: as a pick, without the mouse's events.

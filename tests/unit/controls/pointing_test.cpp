@@ -49,6 +49,24 @@ TEST_F(PointingTest, ThePickedRowAgainIsAClickAlone) {
   EXPECT_EQ(raised(), (Log{"lstTitles MouseDown 1", "lstTitles Click"}));
 }
 
+TEST_F(PointingTest, ARowThatTheFocusHasTakenAwayIsNotPicked) {
+  form.lstTitles.GotFocus = [this] { form.lstTitles.RemoveItem(2); };
+  form.lstHealth.GotFocus = [this] { form.lstHealth.RemoveItem(2); };
+  userPicks(windows, form.lstTitles, 2);
+  userToggles(windows, form.lstHealth, 2);
+  EXPECT_EQ(form.lstTitles.ListIndex(), -1);
+  EXPECT_EQ(raised(),
+            (Log{"txtTitle LostFocus", "lstTitles MouseDown 1", "lstTitles LostFocus", "lstHealth MouseDown 1"}));
+}
+
+TEST_F(PointingTest, APressOnAListWithoutRowsStaysOneWhenTheFocusAddsARow) {
+  form.lstTitles.Clear();
+  form.lstTitles.GotFocus = [this] { form.lstTitles.AddItem("flour"); };
+  userPresses(windows, form.lstTitles, leftButton);
+  EXPECT_EQ(raised(), (Log{"txtTitle LostFocus", "lstTitles MouseDown 1"}));
+  EXPECT_EQ(form.lstTitles.ListIndex(), -1);
+}
+
 TEST_F(PointingTest, ARowOfAComboBoxRaisesClickAndNoChange) {
   userPicks(windows, form.cmbUnit, 2);
   EXPECT_EQ(raised(), (Log{"txtTitle LostFocus", "cmbUnit GotFocus", "cmbUnit MouseDown 1", "cmbUnit Click"}));
