@@ -26,14 +26,11 @@ void showTextColour(QWidget& widget, const TextBox& box) {
   widget.setPalette(palette);
 }
 
-class LineBoxBinding : public Binding {
+/// What the two kinds of text boxes share. What a widget gives back can differ from the text that was put in (a lone
+/// line feed comes back as CR LF), so a change is only what differs from what it gave back when it was last looked at.
+template <class Edit>
+class TextBinding : public Binding {
  public:
-  LineBoxBinding(TextBox& box, QWidget& parent, UserEvents& userEvents)
-      : Binding(box, userEvents), box_(box), edit_(new QLineEdit(&parent)) {
-    if (box.alignment() == Alignment::Right) edit_->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    QObject::connect(edit_, &QLineEdit::textEdited, edit_, [this] { edited(); });
-  }
-
   [[nodiscard]] QWidget& widget() const override { return *edit_; }
 
   void showAll() override {
@@ -43,76 +40,72 @@ class LineBoxBinding : public Binding {
   }
 
  protected:
+  TextBinding(TextBox& box, QWidget& parent, UserEvents& userEvents)
+      : Binding(box, userEvents), box_(box), edit_(new Edit(&parent)) {}
+
   void show(Aspect aspect) override {
     if (aspect == Aspect::Text) showText();
     if (aspect == Aspect::Colour) showTextColour(*edit_, box_);
   }
 
- private:
-  void showText() {
-    const QString text = toQt(box_.Text());
-    if (edit_->text() == text) return;
-    edit_->setText(text);
-    edit_->setCursorPosition(0);
-  }
+  /// Puts a text into the widget, with the cursor in front of it and nothing to undo.
+  virtual void put(const std::string& text) = 0;
+  /// The text as the widget gives it back.
+  [[nodiscard]] virtual std::string given() const = 0;
 
   void edited() {
     cutToLimit(*edit_, box_.MaxLength(), pointCount(toQt(box_.Text())));
-    events().dispatch([this](Windows& windows) { userEdits(windows, box_, fromQt(edit_->text())); });
+    const std::string text = given();
+    if (text == given_) return;
+    given_ = text;
+    written_ = text;
+    events().dispatch([&](Windows& windows) { userEdits(windows, box_, text); });
   }
 
-  TextBox& box_;
-  QLineEdit* edit_;
-};
-
-/// A box of several lines. What the document gives back can differ from the text that was put in (a lone line feed
-/// comes back as CR LF), so a change is only what differs from the document as it was shown.
-class MultiLineBoxBinding : public Binding {
- public:
-  MultiLineBoxBinding(TextBox& box, QWidget& parent, UserEvents& userEvents)
-      : Binding(box, userEvents), box_(box), edit_(new QPlainTextEdit(&parent)) {
-    edit_->setTabChangesFocus(true);
-    edit_->document()->setDocumentMargin(3);
-    QObject::connect(edit_, &QPlainTextEdit::textChanged, edit_, [this] { edited(); });
-  }
-
-  [[nodiscard]] QWidget& widget() const override { return *edit_; }
-
-  void showAll() override {
-    Binding::showAll();
-    show(Aspect::Text);
-    show(Aspect::Colour);
-  }
-
- protected:
-  void show(Aspect aspect) override {
-    if (aspect == Aspect::Text) showText();
-    if (aspect == Aspect::Colour) showTextColour(*edit_, box_);
-  }
+  [[nodiscard]] Edit& edit() const { return *edit_; }
 
  private:
   void showText() {
     if (box_.Text() == written_) return;
     written_ = box_.Text();
     const QSignalBlocker blocker(edit_);
-    edit_->setPlainText(shownLines(written_));
-    shown_ = documentText(*edit_->document());
-  }
-
-  void edited() {
-    cutToLimit(*edit_, box_.MaxLength(), pointCount(toQt(box_.Text())));
-    const std::string text = documentText(*edit_->document());
-    if (text == shown_) return;
-    shown_ = text;
-    written_ = text;
-    events().dispatch([&](Windows& windows) { userEdits(windows, box_, text); });
+    put(written_);
+    given_ = given();
   }
 
   TextBox& box_;
-  QPlainTextEdit* edit_;
-  /// The box's text that the document stands for, and what the document gave back when it was last looked at.
+  Edit* edit_;
+  /// The box's text that the widget stands for, and what the widget gave back for it.
   std::string written_;
-  std::string shown_;
+  std::string given_;
+};
+
+class LineBoxBinding : public TextBinding<QLineEdit> {
+ public:
+  LineBoxBinding(TextBox& box, QWidget& parent, UserEvents& userEvents) : TextBinding(box, parent, userEvents) {
+    if (box.alignment() == Alignment::Right) edit().setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    QObject::connect(&edit(), &QLineEdit::textEdited, &edit(), [this] { edited(); });
+  }
+
+ protected:
+  void put(const std::string& text) override {
+    edit().setText(toQt(text));
+    edit().setCursorPosition(0);
+  }
+  [[nodiscard]] std::string given() const override { return fromQt(edit().text()); }
+};
+
+class MultiLineBoxBinding : public TextBinding<QPlainTextEdit> {
+ public:
+  MultiLineBoxBinding(TextBox& box, QWidget& parent, UserEvents& userEvents) : TextBinding(box, parent, userEvents) {
+    edit().setTabChangesFocus(true);
+    edit().document()->setDocumentMargin(3);
+    QObject::connect(&edit(), &QPlainTextEdit::textChanged, &edit(), [this] { edited(); });
+  }
+
+ protected:
+  void put(const std::string& text) override { edit().setPlainText(shownLines(text)); }
+  [[nodiscard]] std::string given() const override { return documentText(*edit().document()); }
 };
 
 }  // namespace
