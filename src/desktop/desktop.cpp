@@ -16,7 +16,11 @@ int Desktop::run() {
 }
 
 void Desktop::close() {
-  toolkit_.dispatch([this](Windows& windows) { windows.userCloses(program_.run().frmBrowse); });
+  toolkit_.dispatch([this](Windows& windows) {
+    Run& run = program_.run();
+    if (!run.frmBrowse.Loaded()) run.loop.End();
+    windows.userCloses(run.frmBrowse);
+  });
 }
 
 }  // namespace pantrigo

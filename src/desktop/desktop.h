@@ -20,7 +20,7 @@ class Desktop {
   void start() { program_.start(); }
   /// Runs until the end of the program; gives its exit status.
   int run();
-  /// Ends the program as the close mark of the main window does.
+  /// Ends the program as the close mark of the main window does; at once while there is no such window yet.
   void close();
 
   [[nodiscard]] Program& program() { return program_; }

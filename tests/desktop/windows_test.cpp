@@ -245,6 +245,16 @@ TEST_F(WindowsTest, AMissingStoreIsReportedAndEndsTheRun) {
   EXPECT_EQ(without.run(), 1);
 }
 
+TEST_F(WindowsTest, TheEndOfTheSessionEndsAnErrorAtTheStartToo) {
+  std::filesystem::remove(path() / "PANTRIGO.MDB");
+  Desktop without(path());
+  dialogs.whenBoxShown([&] { without.close(); });
+  without.start();
+  ASSERT_EQ(dialogs.boxes().size(), 1u);
+  EXPECT_TRUE(without.program().ended());
+  EXPECT_EQ(without.run(), 1);
+}
+
 TEST_F(WindowsTest, WithNobodyThereAnErrorWaitsForNoAnswer) {
   std::filesystem::remove(path() / "PANTRIGO.MDB");
   Desktop without(path());
