@@ -93,8 +93,9 @@ std::unique_ptr<Connection> openReadWrite(const fs::path& file) {
   if (connection->single("PRAGMA journal_mode=WAL") != "wal") throw RuntimeError(store_error::fileInUse);
   connection->execute(
       "PRAGMA synchronous=FULL;"
-      // In KiB: the working pages of a large cookbook.
-      "PRAGMA cache_size=-8192;"
+      // In KiB: the upper pages of the indexes. The system keeps the whole file in memory anyway, and a search through
+      // all recipes is the faster the fewer places its pages pass through.
+      "PRAGMA cache_size=-4096;"
       // In bytes: what a burst of changes may leave of the log.
       "PRAGMA journal_size_limit=8388608;"
       // Takes the lock, and keeps it.

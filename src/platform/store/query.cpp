@@ -1,6 +1,8 @@
 #include "platform/store/query.h"
 
 #include <algorithm>
+#include <iterator>
+#include <numeric>
 
 #include "platform/store/distinct_cursor.h"
 #include "platform/store/field_values.h"
@@ -60,31 +62,41 @@ void settleLookUps(Connection& connection, Membership& membership) {
   std::erase_if(membership.memberships, settle);
 }
 
-/// The rows of a membership, counted up to a limit.
-std::int64_t countRows(Connection& connection, const Membership& membership, std::int64_t limit) {
-  const EngineText text = membershipSizeText(membership);
+bool exceeds(Connection& connection, const Membership& membership, std::int64_t limit) {
+  const EngineText text = membershipExceedsText(membership);
   Running statement(connection.queryStatement(text.sql));
   text.bindTo(*statement);
   statement->bindWhole(static_cast<int>(text.parameters.size()) + 1, limit);
-  return statement->step() ? statement->whole(0) : 0;
+  return statement->step();
 }
 
-/// Which of the memberships has the fewest rows. They are counted together up to a limit that grows, so that the work
-/// goes by the smallest.
+/// Which of the memberships has the fewest rows, give or take a factor of two. All are counted up to a limit that grows
+/// until one of them stays below, so the work goes by the smallest.
 std::size_t smallestMembership(Connection& connection, const std::vector<Membership>& memberships) {
   constexpr std::int64_t firstLimit = 64;
   constexpr std::int64_t limitGrowth = 8;
-  if (memberships.size() < 2) return 0;
-  for (std::int64_t limit = firstLimit;; limit *= limitGrowth) {
-    std::int64_t smallest = limit;
-    std::size_t chosen = 0;
-    for (std::size_t place = 0; place < memberships.size(); ++place) {
-      const std::int64_t rows = countRows(connection, memberships[place], smallest);
-      if (rows < smallest) chosen = place;
-      smallest = std::min(smallest, rows);
-    }
-    if (smallest < limit) return chosen;
+  std::vector<std::size_t> candidates(memberships.size());
+  std::iota(candidates.begin(), candidates.end(), std::size_t{0});
+  const auto below = [&](std::int64_t limit) {
+    std::vector<std::size_t> found;
+    const auto staysBelow = [&](std::size_t place) { return !exceeds(connection, memberships[place], limit); };
+    std::ranges::copy_if(candidates, std::back_inserter(found), staysBelow);
+    return found;
+  };
+  std::int64_t limit = firstLimit;
+  for (std::vector<std::size_t> found; candidates.size() > 1; limit *= limitGrowth) {
+    found = below(limit);
+    if (found.empty()) continue;
+    candidates = std::move(found);
+    break;
   }
+  while (candidates.size() > 1 && limit > 1) {
+    limit /= 2;
+    std::vector<std::size_t> found = below(limit);
+    if (found.empty()) break;
+    candidates = std::move(found);
+  }
+  return candidates.empty() ? 0 : candidates.front();
 }
 
 std::vector<std::int64_t> findRows(Connection& connection, RowSearch search) {

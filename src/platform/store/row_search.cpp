@@ -313,7 +313,7 @@ EngineText memberValuesText(const Membership& membership) {
   return text;
 }
 
-EngineText membershipSizeText(const Membership& membership) {
+EngineText membershipExceedsText(const Membership& membership) {
   EngineText text;
   TestWriter writer(text);
   std::string rows = isUnique(membership.inner) ? std::string() : writer.allOf(membership);
@@ -322,8 +322,7 @@ EngineText membershipSizeText(const Membership& membership) {
     rows = "SELECT 1 FROM " + TestWriter::nameOf(*membership.outer.table) + " INDEXED BY " +
            std::string(indexOn(membership.outer)->name) + " WHERE " + writer.gathered(membership);
   }
-  const std::string limit = "?" + plainText(static_cast<long>(text.parameters.size()) + 1);
-  text.sql = "SELECT count(*) FROM (" + rows + " LIMIT " + limit + ")";
+  text.sql = rows + " LIMIT 1 OFFSET ?" + plainText(static_cast<long>(text.parameters.size()) + 1);
   return text;
 }
 

@@ -41,9 +41,9 @@ struct RowSearch {
 /// Text that gives the values, in the inner column, which satisfy the membership.
 [[nodiscard]] EngineText memberValuesText(const Membership& membership);
 
-/// Text that counts the rows which decide how much work a membership is when the search starts from it: the more there
-/// are, the more work. The parameter behind the text's own ones limits how far it counts.
-[[nodiscard]] EngineText membershipSizeText(const Membership& membership);
+/// Text that gives a row when a membership has more rows than the parameter behind the text's own ones says: those rows
+/// decide how much work it is when the search starts from it.
+[[nodiscard]] EngineText membershipExceedsText(const Membership& membership);
 
 /// Text that gives the numbers of the rows that the search finds, each once, in no order. It starts from the given one
 /// of the memberships; a search without any goes through the whole table.

@@ -1,9 +1,10 @@
 #include "platform/store/sql_lexer.h"
 
-#include <charconv>
+#include <optional>
 
 #include "platform/store/store_errors.h"
 #include "platform/text/errors.h"
+#include "platform/text/numbers.h"
 
 namespace pantrigo {
 
@@ -79,11 +80,9 @@ class Lexer {
   }
 
   static SqlToken numberToken(std::string_view digits) {
-    SqlToken token{SqlToken::Kind::Number, std::string(digits)};
-    const auto result = std::from_chars(digits.data(), digits.data() + digits.size(), token.number);
-    if (result.ec != std::errc() || result.ptr != digits.data() + digits.size())
-      throw RuntimeError(store_error::sqlSyntax);
-    return token;
+    const std::optional<double> number = toNumber(digits);
+    if (!number.has_value()) throw RuntimeError(store_error::sqlSyntax);
+    return {SqlToken::Kind::Number, std::string(digits), *number};
   }
 
   SqlToken text() {
