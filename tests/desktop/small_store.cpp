@@ -44,6 +44,9 @@ void makeSmallStore(const std::filesystem::path& folder) {
   addRow(store, "Nationality", {{"NationalityId", 1}, {"Description", "English"}});
   addRow(store, "Health", {{"HealthId", 1}, {"Description", "Low Fat"}});
   addRow(store, "Health", {{"HealthId", 2}, {"Description", "Vegetarian"}});
+  addRow(store, "Unit", {{"Type", "a"}, {"Description", "cup"}});
+  addRow(store, "Unit", {{"Type", "a"}, {"Description", "bag"}});
+  addRow(store, "Unit", {{"Type", "m"}, {"Description", "g"}});
   addRow(store, "Recipe",
          {{"RecipeId", 1},
           {"Title", "Apple Pie"},

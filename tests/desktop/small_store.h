@@ -9,7 +9,7 @@ inline constexpr const char* pieComment = "Serve\u00a0warm.\r\nKeeps two days.";
 inline constexpr const char* pieMethod = "Peel the apples.\r\n\r\nBake.\nCool.";
 
 /// Makes a store in the folder with three recipes, "Apple Pie", "Beef Stew" (in the meal) and "Carrot Cake", courses, a
-/// nationality, and two health categories of which the pie has the second.
+/// nationality, two health categories of which the pie has the second, and three unit words.
 void makeSmallStore(const std::filesystem::path& folder);
 
 }  // namespace pantrigo
