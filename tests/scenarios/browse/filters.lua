@@ -59,6 +59,10 @@ case("the boxes take as many characters as they say", function()
   for _, name in ipairs(numbers) do equal(frmBrowse["txt" .. name].MaxLength, 5, name) end
   frmBrowse.txtTitle:Type(string.rep("x", 400))
   equal(#frmBrowse.txtTitle.Text, 400)
+  for _, name in ipairs(combos) do
+    frmBrowse[name]:Type(string.rep("\u{E9}", 40))
+    equal(frmBrowse[name].Text, string.rep("\u{E9}", 30), name)
+  end
   switchPage()
   frmBrowse.txtIron:Type("1234567")
   equal(frmBrowse.txtIron.Text, "12345")
@@ -236,11 +240,13 @@ case("the boxes are checked in their order", function()
 end)
 
 case("what counts as a number", function()
-  open()
+  open({ Kilojoules = true })
   switchPage()
   for _, name in ipairs({ "txtPrepareTime", "txtEnergy", "txtIron" }) do
-    for _, text in ipairs({ "0", "30", "-5", "+5", ".5", "5.", "-.5", "1e3", "1E+3", "1e-3", " 5 ", "007", "1e38", "1e-99" }) do
+    for _, text in ipairs({ "0", "30", "-5", "+5", ".5", "5.", "-.5", "1e3", "1E+3", "1e-3", " 5 ", "007", "1e38", "1e-99", "1e-400", "0e999", "-0" }) do
       frmBrowse[name].Text = text
+      frmBrowse.mnuFilter:Click()
+      contains(GLOBAL.gSqlText, "(Recipe." .. string.sub(name, 4) .. " <= ")
       switchPage()
       equal(boxes(), {}, name .. " takes " .. text)
       equal(frmBrowse.lblFilters.Caption, "Filters~", name .. " takes " .. text)
@@ -383,6 +389,8 @@ case("the meal box clears and shuts the other filters", function()
   end
   equal(focus(), "frmBrowse.chkMeal")
   equal(frmBrowse.lstTitles.ListCount, 2)
+  check(not pcall(switchPage), "the heading takes no click")
+  checkPage(false)
 end)
 
 case("the meal box cleared again opens the filters, empty", function()

@@ -32,8 +32,15 @@ TEST(SqlLexerTest, ReadsNumbers) {
     const char* text;
     double number;
   };
-  for (const Case& c :
-       {Case{"30", 30}, {"007", 7}, {".5", .5}, {"5.", 5}, {"1E+07", 1e7}, {"1e-2", .01}, {"2.5E1", 25}}) {
+  for (const Case& c : {Case{"30", 30},
+                        {"007", 7},
+                        {".5", .5},
+                        {"5.", 5},
+                        {"1E+07", 1e7},
+                        {"1e-2", .01},
+                        {"2.5E1", 25},
+                        {"1e-400", 0},
+                        {"0e999", 0}}) {
     const std::vector<SqlToken> tokens = lexSql(c.text);
     ASSERT_EQ(tokens.size(), 2U) << c.text;
     EXPECT_EQ(tokens.front().kind, SqlToken::Kind::Number) << c.text;

@@ -131,8 +131,8 @@ TEST(IsNumeric, TakesOneCharacterOnlyWhenItIsADigit) {
 }
 
 TEST(IsQueryNumber, TakesOnlyWhatTheListQueryReads) {
-  const std::string passes[] = {"12",  " 12 ", "+5",   "-5",    ".5",     "5.",   "-.5",
-                                "007", "1e3",  "1E+3", "1e-03", "3.4e38", "1e-60"};
+  const std::string passes[] = {"12",  " 12 ", "+5",    "-5",     ".5",    "5.",     "-.5",  "007",
+                                "1e3", "1E+3", "1e-03", "3.4e38", "1e-60", "1e-400", "0e999"};
   for (const std::string& text : passes) EXPECT_TRUE(isQueryNumber(text)) << '"' << text << '"';
   const std::string fails[] = {"",
                                " ",
