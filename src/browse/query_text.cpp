@@ -29,13 +29,6 @@ constexpr TextFilter trailingTexts[] = {
     {&FrmBrowse::txtMethod, "Recipe.Method"},
 };
 
-bool hasSelectedRow(const ListBox& list) {
-  for (int row = 0; row < list.ListCount(); ++row) {
-    if (list.Selected(row)) return true;
-  }
-  return false;
-}
-
 /// Appends the pieces of the text in their order.
 class QueryBuilder {
  public:
@@ -71,7 +64,7 @@ class QueryBuilder {
       query_.text += " ," + std::string(kind.name) + " ";
       countCategory(number);
     }
-    if (hasSelectedRow(form_.lstOther)) query_.text += " ,Other,RecipeOther ";
+    if (form_.lstOther.SelCount() > 0) query_.text += " ,Other,RecipeOther ";
     if (form_.chkMeal.Value()) countCategory(ListQuery::mealKind);
   }
 
