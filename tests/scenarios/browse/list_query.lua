@@ -59,6 +59,30 @@ case("recipes without a title are left out of the whole list", function()
   equal(filter(), all)
 end)
 
+case("a cookbook without a title lists nothing", function()
+  store.create()
+  start()
+  for _, boxes in ipairs({ {}, { txtTitle = "*" }, { cmbEase = "Easy" } }) do
+    equal(filter(boxes), {})
+    equal(frmBrowse.fmeList.Caption, "0 recipe(s) displayed")
+    equal(focus(), "frmBrowse.txtTitle")
+  end
+  store.add("Recipe", { RecipeId = 1 })
+  store.add("Recipe", { RecipeId = 2, Title = "" })
+  equal(filter(), {})
+end)
+
+case("recipes of the same title have a row each in the whole list, and one in the query's unless the meal parts them", function()
+  store.create()
+  store.add("Recipe", { RecipeId = 1, Title = "Pie" })
+  store.add("Recipe", { RecipeId = 2, Title = "pie " })
+  store.add("Recipe", { RecipeId = 3, Title = "Tart" })
+  store.add("Recipe", { RecipeId = 4, Title = "Tart", Meal = true })
+  start()
+  equal(filter(), { "Pie", "pie ", "Tart", "Tart" })
+  equal(filter({ txtTitle = "*" }), { "Pie", "Tart", "Tart" })
+end)
+
 case("the first row is selected, coloured and has the focus", function()
   open()
   frmBrowse.lstTitles:Pick(3)
@@ -180,7 +204,7 @@ end)
 case("a category that is in no table lists nothing, either way", function()
   open()
   for _, combo in ipairs({ "cmbNationality", "cmbCourse", "cmbCooking", "cmbEase" }) do
-    for _, text in ipairs({ "Martian", " ", "'", "*", "Brit*", string.rep("x", 10000), "\u{1F355}", "\u{5E9}\u{5DC}\u{5D5}\u{5DD}" }) do
+    for _, text in ipairs({ "Martian", " ", "'", "*", "Brit*", "[", "%", "\"", string.rep("x", 10000), "\u{1F355}", "\u{5E9}\u{5DC}\u{5D5}\u{5DD}" }) do
       equal(filter({ [combo] = text }), {}, combo)
       equal(frmBrowse.fmeList.Caption, "0 recipe(s) displayed")
       equal(filter({ [combo] = text, txtTitle = "a" }), {}, combo)
@@ -268,10 +292,14 @@ case("patterns in a text filter", function()
 end)
 
 case("an unclosed bracket is an invalid pattern and ends the program", function()
-  open()
-  frmBrowse.txtTitle:Type("[a")
-  equal(fails(function() frmBrowse.mnuFilter:Click() end), { number = 93, text = "Invalid pattern string" })
-  check(not running())
+  for _, box in ipairs({ "txtTitle", "txtIngredient", "txtSource", "txtComments", "txtMethod" }) do
+    open()
+    frmBrowse[box].Text = "[a"
+    equal(fails(function() frmBrowse.mnuFilter:Click() end), { number = 93, text = "Invalid pattern string" }, box)
+    check(not running())
+    boxes()
+    file.remove("PANTRIGO.MDB")
+  end
 end)
 
 case("any text is looked for as it stands", function()

@@ -136,14 +136,17 @@ end)
 case("commands do nothing while a list is built", function()
   cookbook(150)
   yields(function()
-    for _, entry in ipairs({ "mnuOptions", "mnuFilter", "mnuClear", "mnuAdd", "mnuUpdate", "mnuDelete", "mnuFirst", "mnuPrevious", "mnuNext", "mnuLast",
-      "mnuSettings", "mnuMeal", "mnuAbout", "mnuCategoriesEase" }) do
+    for _, entry in ipairs({ "mnuOptions", "mnuPrintSetup", "mnuViewImportLog", "mnuListLastImported", "mnuFilter", "mnuClear", "mnuAdd", "mnuUpdate",
+      "mnuDelete", "mnuFirst", "mnuPrevious", "mnuNext", "mnuLast", "mnuSettings", "mnuMeal", "mnuListListLastImported", "mnuContents", "mnuSearch", "mnuAbout" }) do
       frmBrowse[entry]:Click()
     end
-    for _, key in ipairs({ "Options", "Clear", "Add", "Update", "Delete", "First", "Previous", "Next", "Last", "Settings", "Meal", "Help" }) do
+    for _, key in ipairs({ "Options", "Clear", "Add", "Update", "Delete", "First", "Previous", "Next", "Last", "Settings", "Meal", "Exit", "Help" }) do
       frmBrowse.tbBrowse:Press(key)
     end
-    frmBrowse.lblEase:Click()
+    for _, kind in ipairs({ "Nationality", "Course", "Cooking", "Ease", "Health", "Other" }) do
+      frmBrowse["mnuCategories" .. kind]:Click()
+      frmBrowse["lbl" .. kind]:Click()
+    end
     frmBrowse.lstTitles:DblClick(3)
     frmBrowse:Key(13)
     frmBrowse:Key(46)
@@ -155,6 +158,7 @@ case("commands do nothing while a list is built", function()
   equal(frmBrowse.lstTitles.ListCount, 150)
   equal(boxes(), {})
   equal(helps(), {})
+  equal(setups(), 0)
 end)
 
 case("exit ends the program in the middle of a build", function()

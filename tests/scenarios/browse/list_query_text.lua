@@ -104,6 +104,7 @@ case("a limit leaves out what was not given, with either sign", function()
     local field, box, sign = "Recipe." .. number[1], "txt" .. number[1], frmBrowse["lbl" .. number[2] .. "Sign"]
     equal(textOf({ [box] = "30" }), head .. from .. " WHERE (" .. field .. " <= 30 AND " .. field .. " <> 0)")
     sign.Caption = ">="
+    equal(textOf({ [box] = "30" }), head .. from .. " WHERE (" .. field .. " >= 30 AND " .. field .. " <> 0)")
     equal(textOf({ txtTitle = "pie", [box] = "30" }),
       head .. from .. " WHERE Recipe.Title like '*pie*' AND (" .. field .. " >= 30 AND " .. field .. " <> 0)")
   end

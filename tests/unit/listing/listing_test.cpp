@@ -180,5 +180,46 @@ TEST(Listing, RandomFiltersListWhatALookAtEveryRecipeFinds) {
   EXPECT_GT(nonEmpty, cookbooks * records / 4);
 }
 
+/// Keeps what the main window showed the first time that it asked to be painted.
+class FirstPaint : public FormListener {
+ public:
+  explicit FirstPaint(FrmBrowse& form) : form_(form) { form_.setListener(this); }
+  ~FirstPaint() override { form_.setListener(nullptr); }
+  FirstPaint(const FirstPaint&) = delete;
+  FirstPaint& operator=(const FirstPaint&) = delete;
+
+  void controlChanged(Control&, Aspect) override {}
+  void formChanged(Aspect) override {}
+  void focusChanged() override {}
+  void refresh() override {
+    if (++paints > 1) return;
+    caption = form_.fmeList.Caption();
+    rows = form_.lstTitles.ListCount();
+    pointer = form_.MousePointer();
+    busy = form_.mbBusy;
+  }
+
+  int paints = 0;
+  std::string caption;
+  int rows = -1;
+  int pointer = -1;
+  bool busy = true;
+
+ private:
+  FrmBrowse& form_;
+};
+
+TEST(Listing, TheEmptiedListAsksToWaitBeforeItIsFilled) {
+  Random random(20011);
+  Cookbook cookbook(random);
+  const FirstPaint first(cookbook.form());
+  ASSERT_FALSE(cookbook.list({}).empty());
+  ASSERT_GE(first.paints, 1);
+  EXPECT_EQ(first.caption, "Please wait, list being built");
+  EXPECT_EQ(first.rows, 0);
+  EXPECT_EQ(first.pointer, pointerHourglass);
+  EXPECT_FALSE(first.busy);
+}
+
 }  // namespace
 }  // namespace pantrigo
