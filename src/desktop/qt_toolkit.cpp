@@ -22,6 +22,10 @@ namespace pantrigo {
 
 namespace {
 
+/// Least time between two turns of the event pump, in milliseconds: that of a picture on the screen. More turns would
+/// paint what nobody sees, and a press of Stop waits no longer than this.
+constexpr int pumpTime = 16;
+
 /// How long the system may take to make a window active that it was asked to, in milliseconds.
 constexpr int activationTime = 1000;
 
@@ -143,7 +147,9 @@ void QtToolkit::waitModal(Form&, const std::function<bool()>& over) {
 }
 
 void QtToolkit::pumpEvents() {
+  if (sincePump_.isValid() && sincePump_.elapsed() < pumpTime) return;
   QCoreApplication::processEvents();
+  sincePump_.start();
 }
 
 int QtToolkit::run(QDialog& dialog) {

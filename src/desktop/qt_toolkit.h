@@ -93,6 +93,7 @@ class QtToolkit : public Toolkit, private ViewHost {
   /// active on the way there is no doing of a person's.
   const Form* expected_ = nullptr;
   QElapsedTimer expectedSince_;
+  QElapsedTimer sincePump_;
 };
 
 }  // namespace pantrigo
