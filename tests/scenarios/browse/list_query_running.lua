@@ -39,6 +39,8 @@ eachWay("every hundred rows the caption counts and events come in", 250, functio
   local captions = {}
   yields(function(turn)
     captions[turn] = frmBrowse.fmeList.Caption
+    equal(frmBrowse.lstTitles.ListIndex, -1)
+    equal(frmBrowse.lstTitles.Row, 100 * turn - 1)
     equal(frmBrowse.MousePointer, 11)
     equal(pointer(), 0)
   end)
@@ -186,7 +188,9 @@ case("coming back to the window during a build opens the commands and gives back
       frmBrowse:Activate()
     end
     pointers[turn] = frmBrowse.MousePointer
-    if turn == 2 then frmBrowse.mnuFirst:Click() end
+    if turn < 2 then return end
+    frmBrowse.mnuLast:Click()
+    equal(frmBrowse.lstTitles.ListIndex, 199)
   end)
   frmBrowse.mnuFilter:Click()
   yields()

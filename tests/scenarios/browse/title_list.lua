@@ -60,6 +60,25 @@ case("a row whose recipe has gone keeps its colours", function()
   check(running())
 end)
 
+case("the meal mark and the confirmed delete of a recipe that has gone are errors", function()
+  local noRecord = { number = 3021, text = "No current record." }
+  local function oneGone()
+    three()
+    titles():Pick(1)
+    store.remove("Recipe", "RecipeId", 2)
+  end
+  oneGone()
+  equal(fails(function() frmBrowse.mnuMeal:Click() end), noRecord)
+  file.remove("PANTRIGO.MDB")
+  oneGone()
+  answer("No")
+  frmBrowse.mnuDelete:Click()
+  equal(titles().ListCount, 3)
+  answer("Yes")
+  equal(fails(function() frmBrowse.mnuDelete:Click() end), noRecord)
+  equal(#store.rows("Recipe"), 2)
+end)
+
 case("first and last go to the ends and leave the index mark", function()
   three()
   GLOBAL.gListIndex = 42
