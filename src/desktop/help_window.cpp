@@ -118,13 +118,16 @@ void HelpWindow::addKeys() {
 // Coming up.
 
 void HelpWindow::showContext(int context) {
-  open(pages_.ofContext(context));
-  comeToFront();
-  browser_->setFocus();
+  comeUpWith(pages_.ofContext(context));
 }
 
 void HelpWindow::showPageOfWindow(const QString& form) {
-  open(pages_.ofWindow(form));
+  comeUpWith(pages_.ofWindow(form));
+}
+
+void HelpWindow::comeUpWith(const HelpPage& page) {
+  searchBox_->clear();
+  open(page);
   comeToFront();
   browser_->setFocus();
 }

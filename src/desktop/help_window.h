@@ -38,6 +38,8 @@ class HelpWindow : public QWidget {
   void layOut();
   void addKeys();
   void open(const HelpPage& page);
+  /// Shows a page without any search.
+  void comeUpWith(const HelpPage& page);
   void comeToFront();
   void search();
   /// Goes to the next place of the words, on this page or on the next one that holds them.

@@ -278,6 +278,15 @@ TEST_F(HelpTest, TheSearchListsThePagesThatHaveTheWord) {
   EXPECT_EQ(list().count(), static_cast<int>(HelpPages().all().size()));
 }
 
+TEST_F(HelpTest, APageThatIsAskedForEndsTheSearch) {
+  start();
+  openSearch();
+  QTest::keyClicks(&box(), "fahrenheit");
+  action(run().frmBrowse.mnuContents).trigger();
+  EXPECT_EQ(box().text(), QString());
+  EXPECT_EQ(listed(), "Welcome to Pantrigo");
+}
+
 TEST_F(HelpTest, EnterAndF3GoFromPlaceToPlaceAndFromPageToPage) {
   start();
   openSearch();
