@@ -223,6 +223,7 @@ case("after a delete the list has the focus, and the next row its colours", func
   three()
   store.set("Recipe", "RecipeId", 3, { Meal = true })
   titles():Pick(1)
+  frmBrowse.txtTitle:Focus()
   answer("Yes")
   frmBrowse.mnuDelete:Click()
   equal(focus(), "frmBrowse.lstTitles")

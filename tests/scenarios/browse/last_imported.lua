@@ -126,6 +126,15 @@ case("a list of empty lines empties the list of titles without a word", function
   equal(frmBrowse.fmeList.Caption, "0 recipe(s) displayed")
 end)
 
+case("an empty line doesn't find a recipe without a title", function()
+  cookbook()
+  store.add("Recipe", { RecipeId = 5, Title = "" })
+  start()
+  file.write("import.lst", "\r\nBeef Stew\r\n\r\n")
+  frmBrowse.mnuListLastImported:Click()
+  equal(titles(), { "Beef Stew" })
+end)
+
 case("a recipe that was deleted or renamed since gives no row and no message", function()
   withList("Apple Pie\r\nDuck Soup\r\nBeef Stew\r\n\r\nBeef Stew 1\r\n")
   store.remove("Recipe", "RecipeId", 1)
