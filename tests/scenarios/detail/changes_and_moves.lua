@@ -10,6 +10,10 @@ local function asked(reply)
   equal(box.answer, reply)
 end
 
+local noTitle = { text = "Please select a recipe to perform this function.", caption = "Error", style = 16, answer = "OK" }
+local noSuchRecipe = { text = "No recipe with this title exists. You may need to add the recipe first.", caption = "Sorry", style = 48,
+  answer = "OK" }
+
 local function three(row)
   store.create()
   store.add("Recipe", { RecipeId = 1, Title = "Apple Pie" })
@@ -36,6 +40,45 @@ case("typing into any box but the title marks a change", function()
   equal(GLOBAL.gMethodChanged, true)
 end)
 
+case("a category picked from its box marks a change", function()
+  store.create()
+  for _, kind in ipairs({ "Nationality", "Course", "Cooking", "Ease" }) do
+    store.add(kind, { [kind .. "Id"] = 1, Description = "Some " .. kind })
+  end
+  store.add("Recipe", { RecipeId = 1, Title = "Apple Pie" })
+  start()
+  frmBrowse.lstTitles:DblClick(0)
+  for _, kind in ipairs({ "Nationality", "Course", "Cooking", "Ease" }) do
+    GLOBAL.gDetailChanged = false
+    frmDetail["cmb" .. kind]:Pick(0)
+    equal(frmDetail["cmb" .. kind].Text, "Some " .. kind)
+    equal(GLOBAL.gDetailChanged, true, kind)
+  end
+end)
+
+case("each box takes so many characters and no more", function()
+  three()
+  local limits = { txtTitle = 80, txtServes = 3, txtPrepareTime = 5, txtCookTime = 5, cmbNationality = 30, cmbCourse = 30, cmbCooking = 30,
+    cmbEase = 30 }
+  for name, limit in pairs(limits) do
+    frmDetail[name]:Type(string.rep("1", limit + 1))
+    equal(#frmDetail[name].Text, limit, name)
+  end
+  for _, name in ipairs({ "txtComments", "txtMethod" }) do
+    frmDetail[name]:Type(string.rep("1", 300))
+    equal(#frmDetail[name].Text, 300, name)
+  end
+end)
+
+case("the labels that react to a click have a pointer that says so", function()
+  three()
+  for _, name in ipairs({ "lblNationality", "lblCourse", "lblCooking", "lblEase", "lblHealth", "lblOther", "lblPicture", "lblServes",
+    "lblSettings" }) do
+    equal(frmDetail[name].MousePointer, 99, name)
+  end
+  for _, name in ipairs({ "lblTime", "lblPrepare", "lblCook", "lblMeasurement" }) do equal(frmDetail[name].MousePointer, 0, name) end
+end)
+
 case("the serves label switches and marks a change, so that leaving asks", function()
   three()
   frmDetail.lblServes:Click()
@@ -47,6 +90,7 @@ case("the serves label switches and marks a change, so that leaving asks", funct
   frmDetail:Key(27)
   asked("Yes")
   check(not frmDetail.Visible)
+  equal(GLOBAL.gDetailChanged, false)
 end)
 
 case("a click on a list row marks it and a change", function()
@@ -129,14 +173,21 @@ case("Page Down on the last title asks about changes, reloads it and stays", fun
 end)
 
 case("a move refused by the question leaves everything", function()
-  three()
+  three(1)
+  GLOBAL.gListIndex = 7
   frmDetail.txtServes:Type("9")
-  answer("No")
-  frmDetail:Key(34)
-  equal(frmDetail.txtTitle.Text, "Apple Pie")
-  equal(frmDetail.txtServes.Text, "9")
-  equal(frmBrowse.lstTitles.ListIndex, 0)
-  equal(frmDetail.MousePointer, 0)
+  for _, entry in ipairs({ "mnuFirst", "mnuPrevious", "mnuNext", "mnuLast" }) do
+    answer("No")
+    frmDetail[entry]:Click()
+    asked("No")
+    equal(frmDetail.txtTitle.Text, "Beef Stew", entry)
+    equal(frmDetail.txtServes.Text, "9", entry)
+    equal(frmBrowse.lstTitles.ListIndex, 1, entry)
+    equal(GLOBAL.gListIndex, 7, entry)
+    equal(GLOBAL.gSelectedTitle, "Beef Stew", entry)
+    equal(focus(), "frmDetail.txtServes", entry)
+    equal(frmDetail.MousePointer, 0, entry)
+  end
 end)
 
 case("previous with no selection lands on the first row", function()
@@ -155,21 +206,33 @@ case("next with no selection lands on the first row", function()
   equal(frmDetail.txtTitle.Text, "Apple Pie")
 end)
 
-case("with one row next reloads it, with none the focus alone comes back", function()
+case("with an empty list a move brings only the focus back", function()
   store.create({ ShowRecipes = false })
   store.add("Recipe", { RecipeId = 1, Title = "Apple Pie" })
   start()
   frmBrowse.mnuAdd:Click()
-  frmDetail.txtServes:Focus()
-  frmDetail.mnuNext:Click()
-  equal(focus(), "frmDetail.txtTitle")
-  equal(frmDetail.txtTitle.Text, "")
-  stop()
-  store.system({ ShowRecipes = true })
+  frmDetail.txtTitle:Type("Duck")
+  for entry, index in pairs({ mnuFirst = 7, mnuPrevious = 1, mnuNext = -2, mnuLast = 7 }) do
+    GLOBAL.gListIndex = 7
+    frmDetail.txtServes:Focus()
+    frmDetail[entry]:Click()
+    equal(focus(), "frmDetail.txtTitle", entry)
+    equal(frmDetail.txtTitle.Text, "Duck", entry)
+    equal(GLOBAL.gListIndex, index, entry)
+    equal(GLOBAL.gSelectedTitle, "", entry)
+    equal(frmDetail.MousePointer, 0, entry)
+  end
+end)
+
+case("with one row next loads it again", function()
+  store.create()
+  store.add("Recipe", { RecipeId = 1, Title = "Apple Pie" })
   start()
   frmBrowse.lstTitles:DblClick(0)
+  frmDetail.txtTitle:Type("Duck")
   frmDetail.mnuNext:Click()
   equal(frmDetail.txtTitle.Text, "Apple Pie")
+  equal(frmBrowse.lstTitles.ListIndex, 0)
   equal(GLOBAL.gListIndex, -1)
 end)
 
@@ -190,20 +253,29 @@ case("find without a title says so and asks nothing", function()
   frmDetail.txtServes:Type("9")
   frmDetail.txtTitle:Type("")
   frmDetail.mnuFind:Click()
-  local shown = boxes()
-  equal(#shown, 1)
-  equal(shown[1].text, "Please select a recipe to perform this function.")
+  equal(boxes(), { noTitle })
+  equal(frmDetail.txtServes.Text, "9")
+  equal(GLOBAL.gDetailChanged, true)
   equal(frmDetail.MousePointer, 0)
 end)
 
 case("find of a text behind every title clears the form and keeps the text", function()
-  three()
+  store.create()
+  store.add("Recipe", { RecipeId = 1, Title = "Apple Pie", Serves = 6, Ingredients = "2~~apples~~2~~", Method = "Bake." })
+  start()
+  frmBrowse.lstTitles:DblClick(0)
+  equal(frmDetail.lstIngredient.ListCount, 1)
   frmDetail.txtTitle:Type("Zebra Cake")
+  frmDetail.txtServes:Focus()
   frmDetail.mnuFind:Click()
+  equal(boxes(), { noSuchRecipe })
   equal(frmDetail.txtTitle.Text, "Zebra Cake")
+  equal(GLOBAL.gSelectedTitle, "Zebra Cake")
   equal(frmDetail.lstIngredient.ListCount, 0)
-  equal(boxes()[1], { text = "No recipe with this title exists. You may need to add the recipe first.", caption = "Sorry", style = 48,
-    answer = "OK" })
+  equal(frmDetail.txtServes.Text, "")
+  equal(frmDetail.txtMethod.Text, "")
+  equal(focus(), "frmDetail.txtTitle")
+  equal(frmDetail.MousePointer, 0)
 end)
 
 case("a find refused by the question writes the earlier title back", function()
@@ -213,8 +285,11 @@ case("a find refused by the question writes the earlier title back", function()
   frmDetail.txtTitle:Type("carrot")
   answer("No")
   frmDetail.mnuFind:Click()
+  asked("No")
   equal(frmDetail.txtTitle.Text, "Apple Pie")
   equal(frmDetail.txtServes.Text, "3")
+  equal(GLOBAL.gSelectedTitle, "Beef Stew")
+  equal(frmDetail.MousePointer, 0)
 end)
 
 case("clear blanks the form", function()
@@ -226,6 +301,11 @@ case("clear blanks the form", function()
   start()
   frmBrowse.lstTitles:DblClick(0)
   frmDetail.mnuClear:Click()
+  for _, name in ipairs({ "fmeGeneral", "fmeComments", "lblTime", "lblServes", "lblPrepare", "lblCook", "txtServes", "txtPrepareTime",
+    "txtCookTime" }) do
+    check(frmDetail[name].Visible, name)
+  end
+  equal(frmDetail.MousePointer, 0)
   equal(frmDetail.txtTitle.Text, "")
   equal(frmDetail.txtTitle.ForeColor, 0)
   equal(frmDetail.fmeTitle.Caption, "")
@@ -282,7 +362,18 @@ case("the meal mark on an unknown title says so", function()
   three()
   frmDetail.txtTitle:Type("Nothing")
   frmDetail.mnuMeal:Click()
-  equal(boxes()[1].text, "No recipe with this title exists. You may need to add the recipe first.")
+  equal(boxes(), { noSuchRecipe })
+  equal(frmDetail.txtTitle.ForeColor, 0)
+  equal(frmDetail.MousePointer, 0)
+end)
+
+case("the meal mark without a title says so", function()
+  three(2)
+  frmDetail.txtTitle:Type("")
+  frmDetail.mnuMeal:Click()
+  equal(boxes(), { noTitle })
+  equal(store.row("Recipe", "RecipeId", 3).Meal, true)
+  equal(frmDetail.MousePointer, 0)
 end)
 
 case("coming back from the main window reloads the recipe", function()
@@ -291,6 +382,7 @@ case("coming back from the main window reloads the recipe", function()
   frmBrowse:Activate()
   frmDetail:Activate()
   equal(frmDetail.txtServes.Text, "")
+  equal(boxes(), {})
 end)
 
 case("a kept activation only clears its flag", function()

@@ -156,6 +156,18 @@ case("a recipe that the list does not hold goes too", function()
   equal(frmDetail.txtTitle.Text, "Beef Stew")
 end)
 
+case("without a selected row the form is left clear", function()
+  three(1)
+  frmBrowse.lstTitles.ListIndex = -1
+  answer("Yes")
+  frmDetail.mnuDelete:Click()
+  equal(titles(), { "Apple Pie", "Carrot Cake" })
+  equal(frmBrowse.lstTitles.ListIndex, -1)
+  equal(GLOBAL.gListIndex, -1)
+  equal(GLOBAL.gSelectedTitle, "")
+  equal(frmDetail.txtTitle.Text, "")
+end)
+
 case("the caption over the list stays", function()
   three(0)
   local caption = frmBrowse.fmeList.Caption

@@ -111,6 +111,28 @@ case("a new recipe is for the people catered for, whatever number was typed", fu
   check(frmDetail.lblSettings.Visible)
 end)
 
+case("the lines follow the number of people that a new recipe is given", function()
+  store.create({ Settings = 8, SettingsIngredients = true })
+  store.add("Recipe", { RecipeId = 1, Title = "Beef Stew", Serves = 2, Ingredients = "4~~eggs~~4~~" })
+  start()
+  frmBrowse.lstTitles:DblClick(0)
+  equal(frmDetail.lstIngredient:List(0), "16 eggs")
+  frmDetail.txtTitle:Type("Apple Pie")
+  frmDetail.mnuAdd:Click()
+  equal(frmDetail.lstIngredient:List(0), "4 eggs")
+  equal(store.row("Recipe", "Title", "Apple Pie").Serves, 8)
+  equal(store.row("Recipe", "Title", "Apple Pie").Ingredients, "4~~eggs~~4~~")
+  equal(store.row("Recipe", "Title", "Beef Stew").Serves, 2)
+end)
+
+case("energy in calories is multiplied by an add too", function()
+  blank({ Kilojoules = false })
+  frmDetail.txtTitle:Type("Apple Pie")
+  GLOBAL.gEnergy = 100
+  frmDetail.mnuAdd:Click()
+  equal(store.rows("Recipe")[1].Energy, 418.68)
+end)
+
 case("the label of the people catered for ends hidden where nothing is scaled", function()
   blank({ Settings = 8 })
   frmDetail.txtTitle:Type("Apple Pie")

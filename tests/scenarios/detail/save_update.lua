@@ -107,8 +107,6 @@ end)
 
 case("a new name of a recipe that the list does not hold is listed", function()
   two()
-  frmBrowse.lstTitles.ListIndex = 1
-  GLOBAL.gSelectedTitle = "Apple Pie"
   store.add("Recipe", { RecipeId = 3, Title = "Carrot Cake" })
   GLOBAL.gSelectedTitle = "Carrot Cake"
   frmDetail.txtTitle:Type("Plum Cake")
@@ -181,16 +179,17 @@ end)
 
 case("of equal titles in the list the last is taken off", function()
   two()
-  frmBrowse.lstTitles.ListIndex = 0
-  store.add("Recipe", { RecipeId = 3, Title = "Apple Pie" })
+  store.add("Recipe", { RecipeId = 3, Title = "Apple Pie", Meal = true })
   stop()
   start()
   equal(titles(), { "Apple Pie", "Apple Pie", "Beef Stew" })
   frmBrowse.lstTitles:DblClick(0)
   frmBrowse:Activate()
   frmBrowse.txtTitle:Type("beef")
+  equal(frmBrowse.lstTitles:Colours(1).ForeColor, 6)
   frmDetail.mnuUpdate:Click()
   equal(titles(), { "Apple Pie", "Beef Stew" })
+  equal(frmBrowse.lstTitles:Colours(0).ForeColor, 1, "the row that is left is the first one")
 end)
 
 case("a filter on the source ends the program behind an update that is stored", function()

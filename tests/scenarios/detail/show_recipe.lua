@@ -108,6 +108,25 @@ case("the people catered for stand in brackets, and the label ends visible", fun
   check(frmDetail.lblSettings.Visible)
 end)
 
+case("without a number of people to cater for nothing stands in brackets", function()
+  with({ Serves = 4 }, { SettingsIngredients = true })
+  equal(frmDetail.lblSettings.Caption, "")
+end)
+
+case("a recipe for nobody says 0", function()
+  with({ Serves = 0 })
+  equal(frmDetail.txtServes.Text, "0")
+end)
+
+case("nutrition values of nothing mark no menu entry, whose access key a cleared form has lost", function()
+  with({ Energy = 0, Iron = 0 })
+  equal(frmDetail.mnuNutrition.Caption, "Nu&trition")
+  frmDetail.mnuClear:Click()
+  equal(frmDetail.mnuNutrition.Caption, "Nutrition")
+  frmBrowse.lstTitles:DblClick(0)
+  equal(frmDetail.mnuNutrition.Caption, "Nu&trition")
+end)
+
 case("one nutrition value marks the menu entry", function()
   with({ Cholesterol = 12 })
   equal(frmDetail.mnuNutrition.Caption, "Nu&trition~")
@@ -124,6 +143,13 @@ case("a source of blanks counts as none", function()
   with({ Source = "   " })
   equal(frmDetail.fmeTitle.Caption, "")
   equal(GLOBAL.gSource, "")
+  equal(frmDetail.mnuSource.Enabled, true)
+end)
+
+case("a source is shown with the blanks around it", function()
+  with({ Source = " Aunt May " })
+  equal(frmDetail.fmeTitle.Caption, "Source:  Aunt May ")
+  equal(GLOBAL.gSource, " Aunt May ")
 end)
 
 case("without a picture the hint stands in its place", function()
@@ -131,7 +157,8 @@ case("without a picture the hint stands in its place", function()
   check(frmDetail.lblPicture.Visible)
   check(not frmDetail.imgPhoto.Visible)
   equal(frmDetail.fmePicture.Caption, "")
-  contains(frmDetail.lblPicture.Caption, "Double click mouse here to display a scanned image with this recipe.")
+  equal(frmDetail.lblPicture.Caption, "Double click mouse here to display a scanned image with this recipe. Note, the image must be in " ..
+    "Windows Bitmap format and the file name must have a .bmp extension, e.g. satay.bmp.")
   equal(frmDetail.fmePicture.Top, 2030)
   equal(frmDetail.fmePicture.Height, 1600)
   equal(frmDetail.fmeGeneral.Left, 6750)
@@ -235,6 +262,24 @@ case("a title that has vanished leaves the form as it was, but for the lists", f
   equal(frmDetail.lblHealth.Caption, "Health~")
 end)
 
+case("a title that has vanished clears the marks of memos and leaves that of the form", function()
+  store.create()
+  store.add("Recipe", { RecipeId = 1, Title = "Apple Pie" })
+  store.add("Recipe", { RecipeId = 2, Title = "Beef Stew" })
+  start()
+  frmBrowse.lstTitles:DblClick(0)
+  frmDetail.txtComments:Type("x")
+  frmDetail.txtMethod:Type("y")
+  GLOBAL.gIngredientsChanged = true
+  store.remove("Recipe", "RecipeId", 2)
+  frmBrowse.lstTitles:DblClick(1)
+  equal(frmDetail.txtComments.Text, "x")
+  for _, flag in ipairs({ "gIngredientsChanged", "gMethodChanged", "gCommentsChanged" }) do equal(GLOBAL[flag], false, flag) end
+  equal(GLOBAL.gDetailChanged, true)
+  equal(GLOBAL.gTitleBeforeEdit, "Apple Pie")
+  equal(boxes(), {})
+end)
+
 case("a stored title longer than the box takes is shown whole", function()
   local long = string.rep("x", 82)
   with({ Title = long })
@@ -287,4 +332,65 @@ case("a nutrition value that no single holds is an overflow", function()
   store.add("Recipe", { RecipeId = 1, Title = "Apple Pie", Energy = 1e39 })
   start()
   equal(fails(function() frmBrowse.lstTitles:DblClick(0) end), { number = 6, text = "Overflow" })
+end)
+
+case("showing a recipe is no click on its lists, though its texts count as typed", function()
+  store.create()
+  store.add("Health", { HealthId = 1, Description = "Vegetarian" })
+  store.add("Other", { OtherId = 1, Description = "Party" })
+  store.add("Recipe", { RecipeId = 1, Title = "Apple Pie", Comment = "Good cold.", Method = "Bake." })
+  store.add("RecipeHealth", { RecipeId = 1, HealthId = 1 })
+  store.add("RecipeOther", { RecipeId = 1, OtherId = 1 })
+  start()
+  frmBrowse.lstTitles:DblClick(0)
+  equal(frmDetail.lblHealth.Caption, "Health~")
+  equal(frmDetail.lblOther.Caption, "Other Categories~")
+  equal(GLOBAL.gHealthChanged, false)
+  equal(GLOBAL.gOtherChanged, false)
+  equal(GLOBAL.gCommentsChanged, true)
+  equal(GLOBAL.gMethodChanged, true)
+  equal(GLOBAL.gIngredientsChanged, false)
+  equal(GLOBAL.gDetailChanged, false)
+end)
+
+case("links of other recipes, and those to a category that is gone, select nothing", function()
+  store.create()
+  for id, description in ipairs({ "Low fat", "Low salt", "Vegetarian" }) do
+    store.add("Health", { HealthId = id, Description = description })
+  end
+  store.add("Recipe", { RecipeId = 5, Title = "Apple Pie" })
+  for _, link in ipairs({ { 4, 1 }, { 5, 77 }, { 5, 3 }, { 6, 2 } }) do
+    store.add("RecipeHealth", { RecipeId = link[1], HealthId = link[2] })
+  end
+  start()
+  frmBrowse.lstTitles:DblClick(0)
+  equal(frmDetail.lstHealth.SelCount, 1)
+  equal(frmDetail.lstHealth:Selected(2), true)
+end)
+
+case("the lists are shown from their first rows", function()
+  store.create()
+  for id = 1, 40 do
+    store.add("Health", { HealthId = id, Description = "Health " .. id })
+    store.add("Other", { OtherId = id, Description = "Other " .. id })
+  end
+  store.add("Recipe", { RecipeId = 1, Title = "Apple Pie", Ingredients = string.rep("2~~apples~~2~~", 40) })
+  store.add("RecipeHealth", { RecipeId = 1, HealthId = 40 })
+  start()
+  frmBrowse.lstTitles:DblClick(0)
+  local lists = { "lstHealth", "lstOther", "lstIngredient" }
+  for _, name in ipairs(lists) do frmDetail[name].TopIndex = 20 end
+  frmBrowse.lstTitles:DblClick(0)
+  for _, name in ipairs(lists) do equal(frmDetail[name].TopIndex, 0, name) end
+end)
+
+case("the letter of a further picture is forgotten, also by an empty form", function()
+  with({})
+  GLOBAL.gExportSuffix = "c"
+  frmBrowse.lstTitles:DblClick(0)
+  equal(GLOBAL.gExportSuffix, "")
+  GLOBAL.gExportSuffix = "c"
+  frmBrowse.mnuAdd:Click()
+  equal(frmDetail.txtTitle.Text, "")
+  equal(GLOBAL.gExportSuffix, "")
 end)

@@ -71,3 +71,19 @@ case("the window stands in the middle, a third of the free height from above", f
   near(frmDetail.Left, (1600 * 15 - frmDetail.Width) / 2, "left")
   near(frmDetail.Top, (1200 * 15 - frmDetail.Height) / 3, "top")
 end)
+
+case("what is no part of the moved groups grows with the screen once", function()
+  local names = { "fmeTitle", "txtTitle", "fmeCategories", "lblCourse", "cmbCourse", "lstHealth", "lstOther", "fmePicture", "imgPhoto",
+    "fmeIngredients", "lblMeasurement", "lstIngredient", "fmeMethod", "txtMethod" }
+  store.create()
+  start()
+  local design = {}
+  for _, name in ipairs(names) do
+    local control = frmDetail[name]
+    design[name] = { control.Left, control.Top, control.Width, control.Height }
+  end
+  stop()
+  screen(800, 600)
+  start()
+  for _, name in ipairs(names) do box(frmDetail[name], design[name][1], design[name][2], design[name][3], design[name][4], 1.25, name) end
+end)
