@@ -44,7 +44,6 @@ void subClearDetail(Run& run) {
   for (const NutritionValue& nutrition : nutritionValues) global.*nutrition.value = 0;
   form.lblPicture.setVisible(false);
   global.gDetailChanged = false;
-  global.gIngredientLast = 0;
   global.gSource.clear();
   form.fmePicture.setCaption("");
   form.setMousePointer(pointerDefault);

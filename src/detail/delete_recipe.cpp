@@ -53,7 +53,6 @@ void subDeleteRecipe(Run& run) {
   global.gDetailChanged = false;
   subClearDetail(run);
   run.windows.SetFocus(form.txtTitle);
-  global.gIngredientLast = 0;
   frmDetail_Activate(run);
 }
 

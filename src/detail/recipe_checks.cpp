@@ -27,7 +27,7 @@ bool haveKnownCategories(Run& run) {
   return true;
 }
 
-/// Titles go into the patterns of the list's queries, so a wildcard of those can't be part of one.
+/// The filters of the main window read both characters as wildcards, so a title that held one could not be looked for.
 bool hasValidTitle(Run& run) {
   if (run.frmDetail.txtTitle.Text().find_first_of("*?") == std::string::npos) return true;
   run.loop.MsgBox("Invalid characters in recipe title.", boxStop, captionError);

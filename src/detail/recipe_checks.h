@@ -4,8 +4,8 @@
 
 namespace pantrigo {
 
-// The checks that stand before a save, in their order. Each reports the first thing that is wrong, puts the focus where
-// it can be mended, and then gives false.
+// The checks that stand before a save, in their order. Each reports the first thing that is wrong and then gives false.
+// A title or number at fault gets the focus; a missing title and an unknown category leave it where it is.
 
 /// The title is given, the four categories exist, the title holds no wildcard, and the number of people is a number or
 /// empty.
