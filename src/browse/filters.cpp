@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "browse/filter_pages.h"
+#include "core/category_kinds.h"
 #include "core/energy_label.h"
 #include "core/messages.h"
 #include "platform/text/numbers.h"
@@ -104,10 +105,6 @@ void lblFilters_Click(Run& run) {
 
 void flipSign(Label& sign) {
   sign.setCaption(sign.Caption() == atMost ? atLeast : atMost);
-}
-
-void markListLabel(FrmBrowse& form, const CategoryKind& kind) {
-  (form.*kind.browseLabel).setCaption(markedCaption(kind.labelCaption, form.*kind.browseList));
 }
 
 void chkMeal_Click(Run& run) {

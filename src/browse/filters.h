@@ -1,6 +1,5 @@
 #pragma once
 
-#include "core/category_kinds.h"
 #include "core/run.h"
 
 namespace pantrigo {
@@ -11,8 +10,6 @@ namespace pantrigo {
 void lblFilters_Click(Run& run);
 /// Flips a sign between "<=" and ">=".
 void flipSign(Label& sign);
-/// Marks the label of a category kind's list while a row of it is selected.
-void markListLabel(FrmBrowse& form, const CategoryKind& kind);
 /// A tick clears the other filters and shuts them; without it they are open again.
 void chkMeal_Click(Run& run);
 /// Clears the filters and the tick for the meal.

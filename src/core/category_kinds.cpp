@@ -32,6 +32,10 @@ const std::array<CategoryKind, categoryKindCount> kinds{{
      &FrmDetail::lstOther, &FrmBrowse::lblOther, &FrmDetail::lblOther, "Other Categories"},
 }};
 
+void markLabel(Label& label, const CategoryKind& kind, const ListBox& list) {
+  label.setCaption(std::string(kind.labelCaption) + (list.SelCount() > 0 ? "~" : ""));
+}
+
 }  // namespace
 
 const std::array<CategoryKind, categoryKindCount>& categoryKinds() {
@@ -94,8 +98,12 @@ std::vector<std::string> browseRows(const Run& run, const CategoryKind& kind) {
   return descriptions;
 }
 
-std::string markedCaption(std::string_view caption, const ListBox& list) {
-  return std::string(caption) + (list.SelCount() > 0 ? "~" : "");
+void markBrowseLabel(Run& run, const CategoryKind& kind) {
+  if (kind.isLinked()) markLabel(run.frmBrowse.*kind.browseLabel, kind, run.frmBrowse.*kind.browseList);
+}
+
+void markDetailLabel(Run& run, const CategoryKind& kind) {
+  if (kind.isLinked()) markLabel(run.frmDetail.*kind.detailLabel, kind, run.frmDetail.*kind.detailList);
 }
 
 }  // namespace pantrigo

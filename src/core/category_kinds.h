@@ -65,7 +65,9 @@ void addToDetail(Run& run, const CategoryKind& kind, std::string_view descriptio
 /// The descriptions that the main window's list or combo box of a kind holds, in its order.
 [[nodiscard]] std::vector<std::string> browseRows(const Run& run, const CategoryKind& kind);
 
-/// A label's caption with a "~" behind it when a row of the list is selected.
-[[nodiscard]] std::string markedCaption(std::string_view caption, const ListBox& list);
+/// Gives the label of a kind's list on the main window, respectively on the detail window, its caption, with a "~"
+/// behind it when a row of the list is selected. Does nothing for a kind that has no list.
+void markBrowseLabel(Run& run, const CategoryKind& kind);
+void markDetailLabel(Run& run, const CategoryKind& kind);
 
 }  // namespace pantrigo

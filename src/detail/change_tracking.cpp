@@ -8,7 +8,7 @@ namespace pantrigo {
 namespace {
 
 void listClicked(Run& run, const CategoryKind& kind, bool Global::*changed) {
-  (run.frmDetail.*kind.detailLabel).setCaption(markedCaption(kind.labelCaption, run.frmDetail.*kind.detailList));
+  markDetailLabel(run, kind);
   run.GLOBAL.gDetailChanged = true;
   run.GLOBAL.*changed = true;
 }

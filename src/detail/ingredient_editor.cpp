@@ -4,9 +4,9 @@
 
 #include "core/layout.h"
 #include "core/messages.h"
+#include "detail/ingredient_list.h"
 #include "detail/ingredient_units.h"
 #include "measures/quantity.h"
-#include "measures/show_ingredients.h"
 #include "platform/controls/input.h"
 #include "platform/text/numbers.h"
 #include "platform/text/utf8.h"
@@ -30,7 +30,8 @@ void fillBoxes(FrmIngredient& form, const IngredientRow& row) {
   form.txtPreparation.setText(row[4]);
 }
 
-/// The row of a line; an empty one for no line, and for a line that an old list has and the table has not.
+/// The row of a line; an empty one when no line is current, and for a line behind the end of the table, as a list has
+/// it whose rows were replaced since it was made.
 IngredientRow rowOfLine(const Run& run, int line) {
   const std::vector<IngredientRow>& rows = run.GLOBAL.gIngredientRows;
   return line >= 0 && static_cast<std::size_t>(line) < rows.size() ? rows[static_cast<std::size_t>(line)]
@@ -71,22 +72,15 @@ void markChanged(Run& run) {
   run.GLOBAL.gIngredientsChanged = true;
 }
 
-/// Makes the lines anew; no line is current then. A recipe that is not in the store yet may have no row of its own.
-void rebuildLines(Run& run) {
-  Value makes;
-  guarded([&] { makes = run.GLOBAL.gRecipe.Field("Makes"); });
-  subShowIngredients(run, "s", makes);
-}
-
 }  // namespace
 
 void frmIngredient_Load(Run& run) {
   FrmIngredient& form = run.frmIngredient;
   centreForm(run, form);
   fillUnits(run);
-  const int line = run.frmDetail.lstIngredient.ListIndex();
-  fillBoxes(form, rowOfLine(run, line));
-  form.chkConvertCupSpoon.setValue(line >= 0 && run.GLOBAL.gConvertCupSpoon == "1");
+  const ListBox& list = run.frmDetail.lstIngredient;
+  fillBoxes(form, rowOfLine(run, list.ListIndex()));
+  form.chkConvertCupSpoon.setValue(list.ListCount() > 0 && run.GLOBAL.gConvertCupSpoon == "1");
   enableCupSpoon(run);
 }
 

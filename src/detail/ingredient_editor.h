@@ -7,7 +7,9 @@ namespace pantrigo {
 // Events of the ingredient dialog. It works on the rows of the open recipe and on the detail window's list, whose line
 // of the same number is the current one; the store is left alone.
 
+/// Fills the unit box, shows the row of the current line as it was entered, or empty boxes, and places the dialog.
 void frmIngredient_Load(Run& run);
+/// The first box to be filled is the quantity.
 void frmIngredient_Activate(Run& run);
 /// Esc leaves the dialog.
 void frmIngredient_KeyPress(Run& run, int key);
@@ -33,7 +35,8 @@ void updateIngredient(Run& run);
 /// Takes the row of the current line out, and shows the one that follows it, or the last one.
 void deleteIngredient(Run& run);
 
-// Walk through the rows without saving what was typed.
+// Each goes to the row before or behind the current one, if there is one, without saving what was typed. Without a
+// current line the row behind is the first.
 void previousIngredient(Run& run);
 void nextIngredient(Run& run);
 

@@ -1,6 +1,8 @@
 #include "detail/ingredient_list.h"
 
 #include "measures/ingredient_rows.h"
+#include "measures/show_ingredients.h"
+#include "platform/text/errors.h"
 
 namespace pantrigo {
 
@@ -34,6 +36,13 @@ void lstIngredient_GotFocus(Run& run) {
 
 void lstIngredient_MouseDown(Run& run) {
   if (run.frmDetail.lstIngredient.ListCount() == 0) offerFirstRow(run);
+}
+
+void rebuildLines(Run& run) {
+  // A recipe that is not in the store yet may stand over a cursor without a row. It scales nothing then.
+  Value makes;
+  guarded([&] { makes = run.GLOBAL.gRecipe.Field("Makes"); });
+  subShowIngredients(run, "s", makes);
 }
 
 }  // namespace pantrigo

@@ -13,4 +13,7 @@ void lstIngredient_GotFocus(Run& run);
 /// A press on an empty list always does.
 void lstIngredient_MouseDown(Run& run);
 
+/// Makes the lines anew from the rows of the open recipe; no line is current then.
+void rebuildLines(Run& run);
+
 }  // namespace pantrigo

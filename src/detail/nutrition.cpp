@@ -1,5 +1,6 @@
 #include "detail/nutrition.h"
 
+#include "core/dialogs.h"
 #include "core/layout.h"
 #include "core/messages.h"
 #include "core/recipes.h"
@@ -47,11 +48,12 @@ TextBox* firstWrongBox(FrmNutrition& form) {
 
 void frmNutrition_Load(Run& run) {
   centreForm(run, run.frmNutrition);
+  showEnergy(run);
   for (const NutritionValue& nutrition : nutritionValues) {
+    if (nutrition.value == &Global::gEnergy) continue;
     const float value = run.GLOBAL.*nutrition.value;
     (run.frmNutrition.*nutrition.box).setText(value == 0 ? "" : plainText(value));
   }
-  showEnergy(run);
 }
 
 void takeNutritionValues(Run& run) {
@@ -70,7 +72,7 @@ void takeNutritionValues(Run& run) {
     marked = marked || (nutrition.marksEntry && value > 0);
   }
   run.frmDetail.mnuNutrition.setCaption(marked ? "Nutrition~" : "Nutrition");
-  run.windows.Unload(form);
+  leaveKeepingDetail(run, form);
 }
 
 void clearNutrition(Run& run) {
@@ -81,8 +83,7 @@ void clearNutrition(Run& run) {
 }
 
 void cancelNutrition(Run& run) {
-  run.GLOBAL.gKeepDetailOnActivate = true;
-  run.windows.Unload(run.frmNutrition);
+  leaveKeepingDetail(run, run.frmNutrition);
 }
 
 }  // namespace pantrigo

@@ -1,9 +1,9 @@
 #include "detail/settings.h"
 
+#include "core/dialogs.h"
 #include "core/layout.h"
 #include "core/messages.h"
-#include "measures/show_ingredients.h"
-#include "platform/text/errors.h"
+#include "detail/ingredient_list.h"
 #include "platform/text/numbers.h"
 
 namespace pantrigo {
@@ -37,11 +37,7 @@ bool checkSettings(Run& run, const std::string& entry) {
 void subEditSettings(Run& run) {
   run.windows.ShowModal(run.frmSettings);
   refreshSettingsLabel(run);
-  if (run.frmDetail.txtTitle.Text().empty()) return;
-  // A title that was only typed may stand over a cursor without a row.
-  Value makes;
-  guarded([&] { makes = run.GLOBAL.gRecipe.Field("Makes"); });
-  subShowIngredients(run, "s", makes);
+  if (!run.frmDetail.txtTitle.Text().empty()) rebuildLines(run);
 }
 
 void frmSettings_Load(Run& run) {
@@ -59,13 +55,11 @@ void storeSettings(Run& run) {
   system.Edit();
   system.Set("Settings", box.Text());
   system.Update();
-  run.GLOBAL.gKeepDetailOnActivate = true;
-  run.windows.Unload(run.frmSettings);
+  leaveKeepingDetail(run, run.frmSettings);
 }
 
 void cancelSettings(Run& run) {
-  run.GLOBAL.gKeepDetailOnActivate = true;
-  run.windows.Unload(run.frmSettings);
+  leaveKeepingDetail(run, run.frmSettings);
 }
 
 }  // namespace pantrigo

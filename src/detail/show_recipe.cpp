@@ -55,7 +55,7 @@ void selectLinkedCategory(Run& run, const CategoryKind& kind, const Value& id) {
   for (int row = 0; row < list.ListCount(); ++row) {
     if (list.List(row) != description) continue;
     list.setSelected(row, true);
-    (run.frmDetail.*kind.detailLabel).setCaption(markedCaption(kind.labelCaption, list));
+    markDetailLabel(run, kind);
     return;
   }
 }

@@ -1,5 +1,6 @@
 #include "detail/source.h"
 
+#include "core/dialogs.h"
 #include "core/layout.h"
 #include "core/messages.h"
 #include "detail/change_tracking.h"
@@ -30,13 +31,11 @@ void frmSource_Load(Run& run) {
 
 void takeSource(Run& run) {
   run.GLOBAL.gSourceEntered = Trim(run.frmSource.txtSource.Text());
-  run.GLOBAL.gKeepDetailOnActivate = true;
-  run.windows.Unload(run.frmSource);
+  leaveKeepingDetail(run, run.frmSource);
 }
 
 void cancelSource(Run& run) {
-  run.GLOBAL.gKeepDetailOnActivate = true;
-  run.windows.Unload(run.frmSource);
+  leaveKeepingDetail(run, run.frmSource);
 }
 
 }  // namespace pantrigo

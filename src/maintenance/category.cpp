@@ -1,6 +1,7 @@
 #include "maintenance/category.h"
 
 #include "core/category_kinds.h"
+#include "core/dialogs.h"
 #include "core/layout.h"
 #include "core/messages.h"
 #include "platform/text/utf8.h"
@@ -127,11 +128,9 @@ void tryDelete(Run& run, const CategoryKind& kind, std::string description) {
   if (description.empty() || !mayDelete(run, kind, description)) return;
   if (seekCategory(run.GLOBAL, kind, description)) (run.GLOBAL.*kind.cursor).Delete();
   removeFromDetail(run, kind, description);
+  markDetailLabel(run, kind);
   removeFromBrowse(run, kind, description);
-  if (kind.isLinked()) {
-    (run.frmDetail.*kind.detailLabel).setCaption(markedCaption(kind.labelCaption, run.frmDetail.*kind.detailList));
-    (run.frmBrowse.*kind.browseLabel).setCaption(markedCaption(kind.labelCaption, run.frmBrowse.*kind.browseList));
-  }
+  markBrowseLabel(run, kind);
   run.frmCategory.txtCategory.setText("");
 }
 
@@ -166,8 +165,7 @@ void clearCategory(Run& run) {
 }
 
 void leaveCategory(Run& run) {
-  run.GLOBAL.gKeepDetailOnActivate = true;
-  run.windows.Unload(run.frmCategory);
+  leaveKeepingDetail(run, run.frmCategory);
 }
 
 }  // namespace pantrigo

@@ -4,6 +4,7 @@
 #include "browse/list_query.h"
 #include "browse/recipe_commands.h"
 #include "browse/title_list.h"
+#include "core/category_kinds.h"
 #include "core/messages.h"
 #include "program/wire_commands.h"
 #include "program/wiring.h"
@@ -104,7 +105,7 @@ void wireFilters(Run& run) {
     if (!run.frmBrowse.mbBusy) chkMeal_Click(run);
   };
   for (const CategoryKind& kind : categoryKinds()) {
-    if (kind.isLinked()) (form.*kind.browseList).Click = [&form, &kind] { markListLabel(form, kind); };
+    if (kind.isLinked()) (form.*kind.browseList).Click = [&run, &kind] { markBrowseLabel(run, kind); };
   }
   for (const NumericFilter& filter : numericFilters) {
     Label& sign = form.*filter.sign;

@@ -1,3 +1,4 @@
+#include "core/dialogs.h"
 #include "core/layout.h"
 #include "program/wiring.h"
 
@@ -5,10 +6,7 @@ namespace pantrigo {
 
 void wireFrmOven(Run& run) {
   run.frmOven.Load = [&run] { centreForm(run, run.frmOven); };
-  run.frmOven.cmdCancel.Click = [&run] {
-    run.GLOBAL.gKeepDetailOnActivate = true;
-    run.windows.Unload(run.frmOven);
-  };
+  run.frmOven.cmdCancel.Click = [&run] { leaveKeepingDetail(run, run.frmOven); };
 }
 
 }  // namespace pantrigo
