@@ -54,7 +54,7 @@ void frmOptions_Load(Run& run) {
   const Recordset& system = run.GLOBAL.gSystem;
   centreForm(run, form);
   for (const OptionRow& row : optionRows()) showRow(form, row, system.Field(row.key));
-  // Choosing the measurement system has put its standard sizes into the boxes.
+  // The choice of the measurement system has named the cup's unit, and put its standard sizes into the boxes.
   for (const OptionSize& size : optionSizes()) (form.*size.box).setText(system.Field(size.key).text());
 }
 

@@ -27,6 +27,24 @@ local function rows(list)
   return found
 end
 
+local function refusedSave()
+  frmDetail.mnuUpdate:Click()
+  equal(boxes(), { {
+    text = "Course category does not exist.  Please select from existing list or add new category, then try again.",
+    caption = "Error", style = 16, answer = "OK",
+  } })
+end
+
+case("the dialog stands in the middle, a third of the free height down", function()
+  screen(800, 600)
+  begin()
+  modal("frmCategory", function()
+    equal(frmCategory.Left, (12000 - frmCategory.Width) / 2)
+    equal(frmCategory.Top, (9000 - frmCategory.Height) / 3)
+  end)
+  frmBrowse.mnuCategoriesEase:Click()
+end)
+
 case("a click on a label opens the dialog too", function()
   begin()
   modal("frmCategory", function() equal(frmCategory.Caption, "Categories - Other") end)
@@ -135,6 +153,18 @@ case("after an Update the open recipe shows the old name until it is shown again
   equal(frmDetail.cmbCourse.Text, "Delta")
 end)
 
+case("meanwhile the open recipe can't be saved with the old name", function()
+  begin()
+  frmBrowse.lstTitles:DblClick(0)
+  press("cmdUpdate", "Delta")
+  frmDetail.mnuCategoriesCoarse:Click()
+  refusedSave()
+  frmDetail.cmbCourse:Type("Delta")
+  frmDetail.mnuUpdate:Click()
+  equal(boxes(), {})
+  equal(store.row("Recipe", "RecipeId", 1).Course, 2)
+end)
+
 case("a row that is renamed loses its selection, and the label stays", function()
   begin()
   frmBrowse.lstHealth:Toggle("Alpha")
@@ -216,6 +246,35 @@ case("a choice that was typed and not saved stays in the box of the open recipe"
   frmDetail.mnuCategoriesCoarse:Click()
   equal(frmDetail.cmbCourse.Text, "Gamma")
   equal(rows(frmDetail.cmbCourse), { "Alpha", "Beta" })
+  equal(#boxes(), 1)
+  refusedSave()
+end)
+
+case("a choice that was picked goes from the box with its entry, and that is no change of the recipe", function()
+  begin()
+  frmBrowse.lstTitles:DblClick(1)
+  frmDetail.cmbCourse:Pick("Gamma")
+  GLOBAL.gDetailChanged = false
+  answer("Yes")
+  press("cmdDelete")
+  frmDetail.mnuCategoriesCoarse:Click()
+  equal(frmDetail.cmbCourse.Text, "")
+  equal(GLOBAL.gDetailChanged, false)
+end)
+
+case("a stored choice holds its category, whatever the open recipe shows", function()
+  begin()
+  frmBrowse.lstTitles:DblClick(0)
+  frmDetail.cmbCourse:Type("")
+  frmDetail.lstHealth:Toggle("Beta")
+  press("cmdDelete", "Beta")
+  frmDetail.mnuCategoriesCoarse:Click()
+  contains(boxes()[1].text, "being used by at least one recipe")
+  press("cmdDelete", "Beta")
+  frmDetail.mnuCategoriesHealth:Click()
+  contains(boxes()[1].text, "being used by at least one recipe")
+  equal(store.row("Course", "CourseId", 2).Description, "Beta")
+  equal(store.row("Health", "HealthId", 2).Description, "Beta")
 end)
 
 case("a link that a deleted recipe left behind still holds its category", function()

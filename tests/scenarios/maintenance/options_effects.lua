@@ -62,6 +62,18 @@ case("the frames of an open recipe move when it next shows one", function()
   equal(frmDetail.fmeTitle.Top, 0)
 end)
 
+case("the frames of an open recipe that is to be kept wait for the load after that", function()
+  begin()
+  frmBrowse.lstTitles:DblClick(0)
+  accept("chkShowToolbars")
+  GLOBAL.gKeepDetailOnActivate = true
+  frmDetail:Activate()
+  equal(frmDetail.tbDetail.Visible, false)
+  equal(frmDetail.fmeTitle.Top, 640)
+  frmDetail:Key(34)
+  equal(frmDetail.fmeTitle.Top, 0)
+end)
+
 case("the label of the energy filter follows at once", function()
   begin()
   equal(frmBrowse.lblEnergy.Caption, "Energy:")
