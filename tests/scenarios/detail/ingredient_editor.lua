@@ -309,6 +309,18 @@ case("Add and Delete leave the box about cups as it was for the row before", fun
   end, "~~milk~~1~cup~~~eggs~~3~~")
 end)
 
+case("a tick counts also where the row's unit can't be converted", function()
+  onRow(0, function()
+    frmIngredient.chkConvertCupSpoon:Click()
+    equal(frmIngredient.chkConvertCupSpoon.Value, false)
+    frmIngredient.cmdNext:Click()
+    equal(frmIngredient.chkConvertCupSpoon.Enabled, false)
+    equal(GLOBAL.gConvertCupSpoon, "1")
+    frmIngredient.cmdUpdate:Click()
+    equal(GLOBAL.gConvertCupSpoon, "0")
+  end, "~~milk~~1~cup~~~eggs~~3~~", { ConvertCupSpoon = true })
+end)
+
 case("Delete saves no row, and leaves the mark of cups and spoons", function()
   onRow(0, function()
     frmIngredient.chkConvertCupSpoon:Click()

@@ -103,8 +103,8 @@ case("energies are rounded to whole numbers, halves away from zero", function()
     { 0.4, "0", "or approx. 0 calories" },
     { 1234567, "1234567", "or approx. 294871 calories" },
     { -1000, "-1000", "or approx. -239 calories" },
-    -- A single next to 1234.5, which its seven digits read as.
-    { 1234.49994, "1235", "or approx. 295 calories" },
+    -- The last single below 1234.5, which its seven digits read as.
+    { 1234.49988, "1235", "or approx. 295 calories" },
   }
   for _, row in ipairs(shown) do
     GLOBAL.gEnergy = row[1]
