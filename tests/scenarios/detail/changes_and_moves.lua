@@ -33,11 +33,15 @@ case("typing into any box but the title marks a change", function()
     equal(GLOBAL.gDetailChanged, true, box)
   end
   equal(GLOBAL.gCommentsChanged, false)
+  GLOBAL.gDetailChanged = false
   frmDetail.txtComments:Type("x")
   equal(GLOBAL.gCommentsChanged, true)
+  equal(GLOBAL.gDetailChanged, true)
   equal(GLOBAL.gMethodChanged, false)
+  GLOBAL.gDetailChanged = false
   frmDetail.txtMethod:Type("x")
   equal(GLOBAL.gMethodChanged, true)
+  equal(GLOBAL.gDetailChanged, true)
 end)
 
 case("a category picked from its box marks a change", function()
@@ -323,6 +327,40 @@ case("clear blanks the form", function()
   equal(GLOBAL.gIngredientLast, 0)
   equal(GLOBAL.rows(), { { "", "", "", "", "", "" } })
   equal(focus(), "frmDetail.txtTitle")
+end)
+
+case("clear empties every box and takes the picture away", function()
+  store.create()
+  for _, kind in ipairs({ "Nationality", "Course", "Cooking", "Ease" }) do
+    store.add(kind, { [kind .. "Id"] = 1, Description = "Some " .. kind })
+  end
+  store.add("Recipe", { RecipeId = 1, Title = "Apple Pie", Nationality = 1, Course = 1, Cooking = 1, Ease = 1, Serves = 4, PrepareTime = 30,
+    CookTime = 45, Comment = "Good cold.", Method = "Bake." })
+  file.bmp("1.bmp", 4, 3, 200, 100, 0)
+  start()
+  frmBrowse.lstTitles:DblClick(0)
+  store.system({ Measurement = "u" })
+  frmDetail.txtMethod:Focus()
+  frmDetail.mnuClear:Click()
+  for _, box in ipairs({ "txtTitle", "cmbNationality", "cmbCourse", "cmbCooking", "cmbEase", "txtServes", "txtPrepareTime", "txtCookTime",
+    "txtComments", "txtMethod" }) do
+    equal(frmDetail[box].Text, "", box)
+  end
+  equal(frmDetail.lblMeasurement.Caption, "(US imperial)")
+  equal(frmDetail.fmePicture.Caption, "")
+  check(not frmDetail.imgPhoto.Visible)
+  equal(frmDetail.fmeComments.Width, 9555)
+  frmDetail.imgPhoto.Visible = true
+  equal(frmDetail.imgPhoto.Picture, "")
+  equal(focus(), "frmDetail.txtTitle")
+end)
+
+case("a find behind every title hides the hint about pictures", function()
+  three()
+  check(frmDetail.lblPicture.Visible)
+  frmDetail.txtTitle:Type("Zebra Cake")
+  frmDetail.mnuFind:Click()
+  check(not frmDetail.lblPicture.Visible)
 end)
 
 case("clear asks about changes", function()

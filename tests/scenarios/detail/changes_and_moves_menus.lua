@@ -174,4 +174,8 @@ case("a cleared form keeps what the serves label says, and the marks of memos", 
   equal(GLOBAL.gCommentsChanged, true)
   equal(GLOBAL.gIngredientsChanged, true)
   equal(GLOBAL.gDetailChanged, false)
+  frmBrowse:Activate()
+  frmDetail:Activate()
+  equal(GLOBAL.gCommentsChanged, true)
+  equal(GLOBAL.gIngredientsChanged, true)
 end)

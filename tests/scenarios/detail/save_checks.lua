@@ -49,6 +49,13 @@ case("a category that is none is refused, one kind after the other", function()
   equal(focus(), "frmDetail.cmbEase")
 end)
 
+case("a missing title is reported before an unknown category", function()
+  blank()
+  frmDetail.cmbNationality:Type("Nowhere")
+  frmDetail.mnuAdd:Click()
+  refused(selectFirst)
+end)
+
 case("of several unknown categories the first is reported", function()
   blank()
   frmDetail.txtTitle:Type("Apple Pie")
