@@ -50,7 +50,6 @@ void subDeleteRecipe(Run& run) {
   deletePictures(run, recipeId);
   deleteRecipe(global, recipeId);
   goToNextRow(run);
-  global.gDetailChanged = false;
   subClearDetail(run);
   run.windows.SetFocus(form.txtTitle);
   frmDetail_Activate(run);
