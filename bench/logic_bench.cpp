@@ -1,3 +1,4 @@
+#include "build_bench.h"
 #include "list_bench.h"
 #include "log_size.h"
 #include "ratios.h"
@@ -11,6 +12,7 @@ int main(int argumentCount, char** argumentValues) {
                             {"start-up, logic alone", "StartLogic", "StartPlain", 3.0},
                             {"shown ingredients, 1,000 rows", "IngredientsStored", "IngredientsHeld", 1.5}};
   for (Ratio& ratio : registerListBenchmarks()) ratios.push_back(std::move(ratio));
+  for (Ratio& ratio : registerBuildBenchmarks()) ratios.push_back(std::move(ratio));
   for (Ratio& ratio : registerRecipeBenchmarks()) ratios.push_back(std::move(ratio));
   const int status = runRatios(argumentCount, argumentValues, ratios);
   return logKept ? status : 1;

@@ -13,8 +13,11 @@ namespace pantrigo {
 
 namespace {
 
+/// A text is taken as the bytes that it is: asked for as a text, the engine would make a copy that ends in a zero.
 std::string_view textOf(sqlite3_value* value) {
-  const auto* bytes = reinterpret_cast<const char*>(sqlite3_value_text(value));
+  const bool isText = sqlite3_value_type(value) == SQLITE_TEXT;
+  const void* content = isText ? sqlite3_value_blob(value) : sqlite3_value_text(value);
+  const auto* bytes = static_cast<const char*>(content);
   if (bytes == nullptr) return {};
   return {bytes, static_cast<std::size_t>(sqlite3_value_bytes(value))};
 }
