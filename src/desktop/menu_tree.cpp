@@ -45,8 +45,11 @@ void MenuTree::add(MenuEntry& entry, QMenuBar& bar, UserEvents& events) {
     action = menu->menuAction();
   } else {
     action = parent != nullptr ? parent->addAction(QString()) : bar.addAction(QString());
-    QObject::connect(action, &QAction::triggered, action,
-                     [&entry, &events] { events.dispatch([&](Windows& windows) { userClicks(windows, entry); }); });
+    QObject::connect(action, &QAction::triggered, action, [&entry, &bar, &events] {
+      // The bar would stay marked for as long as a dialog of the entry is open.
+      bar.setActiveAction(nullptr);
+      events.dispatch([&](Windows& windows) { userClicks(windows, entry); });
+    });
   }
   action->setObjectName(toQt(entry.Name()));
   actions_[&entry] = action;
