@@ -123,6 +123,12 @@ void RowList::keyPressEvent(QKeyEvent* event) {
   QListView::keyPressEvent(event);
 }
 
+QModelIndex RowList::moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) {
+  // The view would go to its first row by any key while no row is selected.
+  if (action == MoveEnd && !currentIndex().isValid()) return model_.index(model_.rowCount() - 1, 0);
+  return QListView::moveCursor(action, modifiers);
+}
+
 void RowList::currentChanged(const QModelIndex& current, const QModelIndex& previous) {
   QListView::currentChanged(current, previous);
   if (showing_ || list().multiple() || !current.isValid()) return;
