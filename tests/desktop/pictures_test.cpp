@@ -1,5 +1,8 @@
 #include <QDir>
 #include <QPixmap>
+#include <QScreen>
+#include <QTimer>
+#include <QToolButton>
 
 #include "desktop/desktop_test.h"
 #include "desktop/pictures.h"
@@ -8,9 +11,16 @@ namespace pantrigo {
 
 namespace {
 
-using PicturesTest = DesktopTest;
-
-const QString pictureFolder = QStringLiteral(PANTRIGO_PICTURE_FOLDER);
+/// Pictures for whoever changes a window, in a folder that is named after the screen: its size, and how many of its
+/// pixels are one of ours.
+QString pictureFolder() {
+  const QScreen& screen = *QGuiApplication::primaryScreen();
+  return QStringLiteral("%1/%2x%3@%4")
+      .arg(QStringLiteral(PANTRIGO_PICTURE_FOLDER))
+      .arg(screen.size().width())
+      .arg(screen.size().height())
+      .arg(screen.devicePixelRatio());
+}
 
 /// Whether the picture shows more than one colour.
 bool showsSomething(const QImage& picture) {
@@ -23,11 +33,22 @@ bool showsSomething(const QImage& picture) {
 }
 
 void keep(QWidget& window, const QString& name) {
-  ASSERT_TRUE(QDir().mkpath(pictureFolder));
+  ASSERT_TRUE(QDir().mkpath(pictureFolder()));
   const QPixmap picture = window.grab();
   EXPECT_TRUE(showsSomething(picture.toImage()));
-  EXPECT_TRUE(picture.save(QDir(pictureFolder).filePath(name + QStringLiteral(".png"))));
+  EXPECT_TRUE(picture.save(QDir(pictureFolder()).filePath(name + QStringLiteral(".png"))));
 }
+
+class PicturesTest : public DesktopTest {
+ protected:
+  void keepBrowse(const char* state) {
+    keep(window(run().frmBrowse), QStringLiteral("frmBrowse-") + QLatin1String(state));
+  }
+  void press(const char* button) {
+    QTest::mouseClick(window(run().frmBrowse).findChild<QToolButton*>(button), Qt::LeftButton);
+  }
+  void click(const Control& control) { QTest::mouseClick(&widget<QWidget>(control), Qt::LeftButton); }
+};
 
 TEST_F(PicturesTest, TheMainWindowsGoIntoAFolder) {
   start();
@@ -40,17 +61,60 @@ TEST_F(PicturesTest, TheMainWindowsGoIntoAFolder) {
   keep(window(run().frmDetail), "frmDetail");
 }
 
+TEST_F(PicturesTest, TheMainWindowHasOneOfEachOfItsFilterStates) {
+  start();
+  clickRow(run().frmBrowse.lstHealth, 1);
+  run().frmBrowse.cmbCourse.setText("Main Course");
+  keepBrowse("first-page");
+  click(run().frmBrowse.lblFilters);
+  run().frmBrowse.txtIron.setText("12.5");
+  click(run().frmBrowse.lblIronSign);
+  keepBrowse("continued-page");
+  click(run().frmBrowse.lblFilters);
+  EXPECT_EQ(run().frmBrowse.lblFilters.Caption(), "Filters~");
+  EXPECT_EQ(run().frmBrowse.lblHealth.Caption(), "Health~");
+  keepBrowse("marks");
+  press("Clear");
+  widget<QWidget>(run().frmBrowse.chkMeal).setFocus(Qt::TabFocusReason);
+  DesktopTest::press(run().frmBrowse, Qt::Key_Space);
+  press("Filter");
+  EXPECT_EQ(run().frmBrowse.fmeList.Caption(), "1 recipe(s) displayed");
+  EXPECT_FALSE(run().frmBrowse.txtTitle.Enabled());
+  keepBrowse("meal-only");
+}
+
+TEST_F(PicturesTest, TheMainWindowHasThemOfItsListToo) {
+  constexpr int manyRecipes = 1500;
+  addRecipes(path(), manyRecipes);
+  start();
+  bool building = false;
+  // A pump that has just turned leaves the next turn out.
+  QTest::qWait(20);
+  QTimer::singleShot(0, &window(run().frmBrowse), [&] {
+    building = run().frmBrowse.mbBusy;
+    keepBrowse("building");
+  });
+  press("Filter");
+  EXPECT_TRUE(building);
+  EXPECT_EQ(run().frmBrowse.fmeList.Caption(), "1,503 recipe(s) displayed");
+  keepBrowse("many-rows");
+  run().frmBrowse.txtTitle.setText("no such title");
+  press("Filter");
+  EXPECT_EQ(run().frmBrowse.fmeList.Caption(), "0 recipe(s) displayed");
+  keepBrowse("empty-list");
+}
+
 TEST_F(PicturesTest, TheDialogsHavePictures) {
   start();
   open(0);
   dialogs.whenShown("frmOven", [this] {
     keep(window(run().frmOven), "frmOven");
-    press(run().frmOven, Qt::Key_Escape);
+    DesktopTest::press(run().frmOven, Qt::Key_Escape);
   });
   action(run().frmDetail.mnuOven).trigger();
   dialogs.whenShown("frmAbout", [this] {
     keep(window(run().frmAbout), "frmAbout");
-    press(run().frmAbout, Qt::Key_Return);
+    DesktopTest::press(run().frmAbout, Qt::Key_Return);
   });
   action(run().frmDetail.mnuAbout).trigger();
   EXPECT_FALSE(run().frmAbout.Loaded());

@@ -1,9 +1,12 @@
 #include "desktop/small_store.h"
 
 #include <initializer_list>
+#include <string>
 #include <utility>
 
 #include "platform/store/database.h"
+#include "platform/store/durability.h"
+#include "platform/text/format.h"
 
 namespace pantrigo {
 
@@ -60,6 +63,19 @@ void makeSmallStore(const std::filesystem::path& folder) {
   addRow(store, "RecipeHealth", {{"RecipeId", 1}, {"HealthId", 2}});
   addRow(store, "Recipe", {{"RecipeId", 2}, {"Title", "Beef Stew"}, {"Course", 2}, {"Serves", 4}, {"Meal", true}});
   addRow(store, "Recipe", {{"RecipeId", 3}, {"Title", "Carrot Cake"}, {"Serves", 8}, {"Source", "Notebook"}});
+  store.Close();
+}
+
+void addRecipes(const std::filesystem::path& folder, int count) {
+  constexpr int firstId = 4;
+  Database store = Database::OpenDatabase(folder / "PANTRIGO.MDB");
+  {
+    const CheckpointAtEnd together(store);
+    for (int number = 1; number <= count; ++number) {
+      const std::string title = "Recipe " + Format(static_cast<long>(number), "0000");
+      addRow(store, "Recipe", {{"RecipeId", firstId + number - 1}, {"Title", title}});
+    }
+  }
   store.Close();
 }
 

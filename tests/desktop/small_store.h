@@ -12,4 +12,7 @@ inline constexpr const char* pieMethod = "Peel the apples.\r\n\r\nBake.\nCool.";
 /// nationality, two health categories of which the pie has the second, and three unit words.
 void makeSmallStore(const std::filesystem::path& folder);
 
+/// Adds recipes "Recipe 0001", "Recipe 0002" and so on to the store in the folder, up to 9999.
+void addRecipes(const std::filesystem::path& folder, int count);
+
 }  // namespace pantrigo
