@@ -79,16 +79,18 @@ QCheckBox::indicator:checked:disabled { background: #d8c9bc; }
 QRadioButton::indicator { width: @mark; height: @mark; border: 1px solid #a99f8f; border-radius: @round; background: @field; }
 QRadioButton::indicator:focus { border: 2px solid @accent; width: @inner; height: @inner; }
 QRadioButton::indicator:checked { background: qradialgradient(cx:0.5, cy:0.5, radius:0.5, fx:0.5, fy:0.5, stop:0 @accent, stop:0.55 @accent, stop:0.62 @field, stop:1 @field); border-color: @accent; }
+QMessageBox { messagebox-critical-icon: url(:/look/box_stop.svg); messagebox-warning-icon: url(:/look/box_exclamation.svg); messagebox-question-icon: url(:/look/box_question.svg); messagebox-information-icon: url(:/look/box_information.svg); }
 QDialogButtonBox { dialogbuttonbox-buttons-have-icons: 0; }
 QPushButton { background: @panel; border: 1px solid #c3b8a5; border-radius: 5px; padding: 4px 16px; }
 QPushButton:hover { background: @tint; }
 QPushButton:pressed { background: #efd3bf; }
 QPushButton:focus { border: 2px solid @accent; padding: 3px 15px; }
-QPushButton:default { border-color: @accent; font-weight: 600; }
+QPushButton:default { border-color: @accent; color: @accent; }
 QPushButton:disabled { color: @disabled; background: #f3efe8; border-color: #e2dace; }
 QToolButton { background: transparent; border: 1px solid transparent; border-radius: 6px; padding: 2px; }
 QToolButton:hover { background: @tint; border-color: #ecd0bb; }
-QToolButton:pressed, QToolButton:checked { background: #efd3bf; border-color: #d9a988; }
+QToolButton:pressed { background: #efd3bf; border-color: #d9a988; }
+QToolButton:checked { background: #f0eadf; border-color: #e2dace; color: @quiet; }
 QToolButton:disabled { color: @disabled; }
 QScrollBar:vertical { background: transparent; width: 12px; margin: 1px; }
 QScrollBar:horizontal { background: transparent; height: 12px; margin: 1px; }
@@ -103,11 +105,12 @@ QString filledStyleSheet(double scale) {
   const int mark = static_cast<int>(std::lround(textSize(scale) * markSide));
   const auto pixels = [](int length) { return QString::number(length) + QStringLiteral("px"); };
   const std::pair<const char*, QString> words[] = {
-      {"@mark", pixels(mark)},          {"@inner", pixels(mark - 2)},
-      {"@round", pixels(mark / 2 + 1)}, {"@accent", hue::accent.name()},
-      {"@tint", hue::tint.name()},      {"@panel", hue::panel.name()},
-      {"@ground", hue::ground.name()},  {"@disabled", hue::disabledText.name()},
-      {"@text", hue::text.name()},      {"@field", hue::field.name()},
+      {"@mark", pixels(mark)},           {"@inner", pixels(mark - 2)},
+      {"@round", pixels(mark / 2 + 1)},  {"@accent", hue::accent.name()},
+      {"@tint", hue::tint.name()},       {"@panel", hue::panel.name()},
+      {"@ground", hue::ground.name()},   {"@disabled", hue::disabledText.name()},
+      {"@text", hue::text.name()},       {"@field", hue::field.name()},
+      {"@quiet", hue::quietText.name()},
   };
   QString filled = QString::fromLatin1(styleSheet);
   for (const auto& [word, meaning] : words) filled.replace(QLatin1String(word), meaning);

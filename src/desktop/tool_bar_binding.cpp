@@ -7,6 +7,7 @@
 
 #include "desktop/binding.h"
 #include "desktop/look.h"
+#include "desktop/sunken_icon.h"
 #include "desktop/text_conversion.h"
 #include "platform/controls/input.h"
 
@@ -72,7 +73,8 @@ class BarWidget : public QWidget {
     const QString picture = bar_.imageList() == nullptr ? QString() : toQt(bar_.imageList()->picture(number));
     if (button.property(pictureProperty).toString() == picture) return;
     button.setProperty(pictureProperty, picture);
-    button.setIcon(picture.isEmpty() ? QIcon() : iconNamed(picture));
+    const QIcon icon = iconNamed(picture);
+    button.setIcon(icon.isNull() ? icon : sunkenIcon(icon));
   }
 
   [[nodiscard]] double buttonsInRow() const {

@@ -5,6 +5,7 @@
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
+#include <algorithm>
 #include <fstream>
 
 #include "desktop/accessible_names.h"
@@ -13,6 +14,7 @@
 #include "desktop/qt_toolkit.h"
 #include "desktop/row_list.h"
 #include "desktop/screen_area.h"
+#include "desktop/sunken_icon.h"
 #include "forms/frmBrowse.h"
 #include "forms/frmDetail.h"
 #include "platform/text/errors.h"
@@ -56,6 +58,24 @@ TEST(Look, EveryToolBarButtonHasAPicture) {
       EXPECT_EQ(iconNamed(QString::fromStdString(button.key)).isNull(), button.key.empty()) << button.key;
     }
   }
+}
+
+int strongestAlpha(const QPixmap& picture) {
+  const QImage image = picture.toImage();
+  int strongest = 0;
+  for (int y = 0; y < image.height(); ++y) {
+    for (int x = 0; x < image.width(); ++x) strongest = std::max(strongest, qAlpha(image.pixel(x, y)));
+  }
+  return strongest;
+}
+
+TEST(Look, APictureFadesWhileItsButtonIsHeldDown) {
+  constexpr int side = 32;
+  constexpr int opaque = 255;
+  const QIcon icon = sunkenIcon(iconNamed(QStringLiteral("Add")));
+  EXPECT_EQ(strongestAlpha(icon.pixmap(side, QIcon::Normal, QIcon::Off)), opaque);
+  EXPECT_GT(strongestAlpha(icon.pixmap(side, QIcon::Normal, QIcon::On)), 0);
+  EXPECT_LT(strongestAlpha(icon.pixmap(side, QIcon::Normal, QIcon::On)), opaque / 2);
 }
 
 struct Screen {

@@ -1,4 +1,5 @@
 #include <QDir>
+#include <QListView>
 #include <QPixmap>
 #include <QScreen>
 #include <QTimer>
@@ -42,6 +43,10 @@ void keep(QWidget& window, const QString& name) {
 class PicturesTest : public DesktopTest {
  protected:
   void keepBrowse(const char* state) {
+    // The list takes changed rows over with the next picture of the screen.
+    const ListBox& titles = run().frmBrowse.lstTitles;
+    const QAbstractItemModel& shown = *widget<QListView>(titles).model();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return shown.rowCount() == titles.ListCount(); }));
     keep(window(run().frmBrowse), QStringLiteral("frmBrowse-") + QLatin1String(state));
   }
   void press(const char* button) {
