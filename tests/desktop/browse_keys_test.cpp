@@ -32,17 +32,27 @@ class BrowseKeysTest : public DesktopTest {
   void goToTitles() { titles().setFocus(Qt::TabFocusReason); }
   void showContinuedPage() { QTest::mouseClick(&widget<QWidget>(browse().lblFilters), Qt::LeftButton); }
 
+  /// The window has the keyboard, which a window manager would give it, also back after a dialog. A window counts as
+  /// active already when one above it is, so this asks the program.
+  void awaitActive() {
+    window(browse()).activateWindow();
+    ASSERT_TRUE(QTest::qWaitFor([&] { return QApplication::activeWindow() == &window(browse()); }));
+  }
+
   /// Opens a menu of the bar by its access key, and goes on from menu to entry by theirs.
   void byKeys(Qt::Key menu, const std::vector<Qt::Key>& entries = {}) {
-    // Access keys belong to the active window, which a window manager would make this one after a box.
-    window(browse()).activateWindow();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&window(browse())));
+    awaitActive();
     QTest::keyClick(&window(browse()), menu, Qt::AltModifier);
     for (const Qt::Key entry : entries) {
       QWidget* popup = QApplication::activePopupWidget();
       ASSERT_NE(popup, nullptr);
       QTest::keyClick(popup, entry);
     }
+  }
+
+  void clickInBar(const MenuEntry& entry) {
+    awaitActive();
+    QTest::mouseClick(&menuBar(), Qt::LeftButton, {}, menuBar().actionGeometry(&action(entry)).center());
   }
 
   /// Filters the list, and does something at the first turn of the event pump in that.
@@ -235,32 +245,24 @@ TEST_F(BrowseKeysTest, EscInAMenuClosesTheMenuAlone) {
 TEST_F(BrowseKeysTest, AnEntryOfTheBarIsNotMarkedWhileItsDialogIsOpen) {
   start();
   int seen = 0;
-  const auto expectUnmarked = [&] {
+  const auto expectUnmarked = [&](QWidget& dialog) {
     ++seen;
+    // A window manager brings the keyboard here first, and takes it back when the dialog goes.
+    dialog.activateWindow();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return QApplication::activeWindow() == &dialog; }));
     EXPECT_EQ(menuBar().activeAction(), nullptr) << seen;
+    QTest::keyClick(dialog.focusWidget(), Qt::Key_Escape);
   };
-  const auto click = [&](const MenuEntry& entry) {
-    QTest::mouseClick(&menuBar(), Qt::LeftButton, {}, menuBar().actionGeometry(&action(entry)).center());
-  };
-  for (const std::function<void()>& opening :
-       {std::function<void()>([&] { click(browse().mnuSettings); }), std::function<void()>([&] { byKeys(Qt::Key_S); }),
-        std::function<void()>([&] { byKeys(Qt::Key_C, {Qt::Key_C}); })}) {
-    for (const char* form : {"frmSettings", "frmCategory"}) {
-      dialogs.whenShown(form, [&, form] {
-        expectUnmarked();
-        desktop().toolkit().view(*run().windows.active())->close();
-      });
-    }
-    opening();
-  }
-  for (const std::function<void()>& opening :
-       {std::function<void()>([&] { click(browse().mnuMeal); }), std::function<void()>([&] { byKeys(Qt::Key_M); })}) {
-    dialogs.whenBoxShown([&] {
-      expectUnmarked();
-      QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Escape);
-    });
-    opening();
-  }
+  dialogs.whenShown("frmSettings", [&] { expectUnmarked(window(run().frmSettings)); });
+  clickInBar(browse().mnuSettings);
+  dialogs.whenShown("frmSettings", [&] { expectUnmarked(window(run().frmSettings)); });
+  byKeys(Qt::Key_S);
+  dialogs.whenShown("frmCategory", [&] { expectUnmarked(window(run().frmCategory)); });
+  byKeys(Qt::Key_C, {Qt::Key_C});
+  dialogs.whenBoxShown([&] { expectUnmarked(*QApplication::activeModalWidget()); });
+  clickInBar(browse().mnuMeal);
+  dialogs.whenBoxShown([&] { expectUnmarked(*QApplication::activeModalWidget()); });
+  byKeys(Qt::Key_M);
   EXPECT_EQ(seen, 5);
 }
 
