@@ -79,6 +79,11 @@ std::optional<int> keyCode(const QKeyEvent& event) {
   }
 }
 
+/// A letter with Alt is an access key, and no text where nothing answers to it.
+bool isAccessKey(const QKeyEvent& event) {
+  return event.modifiers() == Qt::AltModifier && !event.text().isEmpty() && event.text().front().isPrint();
+}
+
 }  // namespace
 
 FormView::FormView(Form& form, ViewHost& host)
@@ -336,8 +341,9 @@ bool FormView::eventFilter(QObject* watched, QEvent* event) {
   const auto found = focusWidgets_.find(watched);
   if (found == focusWidgets_.end()) return QWidget::eventFilter(watched, event);
   if (event->type() == QEvent::FocusIn) takeFocus(*found->second, static_cast<QFocusEvent&>(*event));
-  if (event->type() == QEvent::KeyPress) return takeKey(static_cast<QKeyEvent&>(*event));
-  return false;
+  if (event->type() != QEvent::KeyPress) return false;
+  const auto& key = static_cast<QKeyEvent&>(*event);
+  return isAccessKey(key) || takeKey(key);
 }
 
 void FormView::takeFocus(const Binding& binding, const QFocusEvent& event) {

@@ -137,6 +137,9 @@ void QtToolkit::windowActivated(Form& form) {
   expected_ = nullptr;
   const bool elsewhere = !dialogs_.empty() || windows_->active() == &form || windows_->blocked(form) || !form.Visible();
   if (elsewhere || windows_->active() == nullptr) return;
+  // A window that is minimised hands the keyboard to the next one, and nobody has done anything there yet.
+  const FormView* before = view(*windows_->active());
+  if (before != nullptr && before->isMinimized()) return;
   dispatch([&](Windows& windows) { windows.userActivates(form); });
 }
 
