@@ -19,10 +19,10 @@ void layOutAbout(const FormView& view, QWidget& canvas) {
   large.setWeight(QFont::DemiBold);
   auto* title = static_cast<QLabel*>(widget("lblTitle"));
   title->setProperty(textSizeProperty, titleSize);
-  title->setFixedSize(QFontMetrics(large).size(0, title->text()) + QSize(8, 4));
+  title->setFixedSize(QFontMetrics(large).size(0, title->text()) + QSize(dialogMargin, 4));
 
   auto* grid = new QGridLayout(&canvas);
-  grid->setContentsMargins(dialogMargin, dialogMargin, 2 * dialogMargin, dialogMargin);
+  grid->setContentsMargins(dialogMargin, dialogMargin, dialogMargin, dialogMargin);
   grid->setHorizontalSpacing(dialogMargin);
   grid->setVerticalSpacing(2);
   grid->addWidget(widget("picAbout"), 0, 0, 2, 1);
