@@ -2,12 +2,10 @@
 
 #include <QApplication>
 #include <QComboBox>
-#include <QDir>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
-#include <QScreen>
 #include <fstream>
 #include <functional>
 #include <vector>
@@ -15,36 +13,11 @@
 #include "core/messages.h"
 #include "desktop/desktop_test.h"
 #include "desktop/help_window.h"
+#include "desktop/kept_pictures.h"
 
 namespace pantrigo {
 
 namespace {
-
-/// The folder is named after the screen: its size, and how many of its pixels are one of ours.
-QString pictureFolder() {
-  const QScreen& screen = *QGuiApplication::primaryScreen();
-  return QStringLiteral("%1/%2x%3@%4")
-      .arg(QStringLiteral(PANTRIGO_PICTURE_FOLDER))
-      .arg(screen.size().width())
-      .arg(screen.size().height())
-      .arg(screen.devicePixelRatio());
-}
-
-bool showsSomething(const QImage& picture) {
-  const QImage first = picture.copy(0, 0, 1, 1).scaled(picture.size());
-  return picture.convertToFormat(QImage::Format_RGB32) != first.convertToFormat(QImage::Format_RGB32);
-}
-
-void keep(QWidget& window, const QString& name) {
-  ASSERT_TRUE(QDir().mkpath(pictureFolder()));
-  QCoreApplication::processEvents();
-  const QPixmap picture = window.grab();
-  EXPECT_TRUE(showsSomething(picture.toImage())) << name.toStdString();
-  EXPECT_TRUE(picture.save(QDir(pictureFolder()).filePath(name + QStringLiteral(".png"))));
-  const QRect screen = window.screen()->availableGeometry();
-  EXPECT_LE(window.width(), screen.width()) << name.toStdString();
-  EXPECT_LE(window.height(), screen.height()) << name.toStdString();
-}
 
 class DialogPicturesTest : public DesktopTest {
  protected:
@@ -56,7 +29,8 @@ class DialogPicturesTest : public DesktopTest {
       shown = true;
       for (const auto& [state, work] : states) {
         work();
-        keep(window(form), toQt(form.Name()) + QLatin1Char('-') + QLatin1String(state));
+        QCoreApplication::processEvents();
+        keepPicture(window(form), toQt(form.Name()) + QLatin1Char('-') + QLatin1String(state));
       }
       press(form, Qt::Key_Escape);
     });
@@ -142,10 +116,10 @@ TEST_F(DialogPicturesTest, OfTheDialogsThatShow) {
                  }
                }}});
   action(run().frmDetail.mnuContents).trigger();
-  keep(*desktop().toolkit().helpWindow(), "help-contents");
+  keepPicture(*desktop().toolkit().helpWindow(), "help-contents");
   action(run().frmDetail.mnuSearch).trigger();
   QTest::keyClicks(desktop().toolkit().helpWindow()->focusWidget(), "ingredient");
-  keep(*desktop().toolkit().helpWindow(), "help-search");
+  keepPicture(*desktop().toolkit().helpWindow(), "help-search");
 }
 
 /// Each text that a box shows somewhere.
@@ -189,7 +163,7 @@ TEST_F(DialogPicturesTest, OfTheMessageBoxes) {
     dialogs.whenBoxShown([&] {
       auto& window = dynamic_cast<QMessageBox&>(*QApplication::activeModalWidget());
       shown = QTest::qWaitForWindowExposed(&window);
-      keep(window, QStringLiteral("box-") + QLatin1String(box.name));
+      keepPicture(window, QStringLiteral("box-") + QLatin1String(box.name));
       EXPECT_FALSE(window.iconPixmap().isNull());
       const auto& label = *window.findChild<QLabel*>("qt_msgbox_label");
       EXPECT_GE(label.height(), label.heightForWidth(label.width())) << box.name;

@@ -1,44 +1,15 @@
 #include <QDir>
 #include <QListView>
-#include <QPixmap>
-#include <QScreen>
 #include <QTimer>
 #include <QToolButton>
 
 #include "desktop/desktop_test.h"
+#include "desktop/kept_pictures.h"
 #include "desktop/pictures.h"
 
 namespace pantrigo {
 
 namespace {
-
-/// Pictures for whoever changes a window, in a folder that is named after the screen: its size, and how many of its
-/// pixels are one of ours.
-QString pictureFolder() {
-  const QScreen& screen = *QGuiApplication::primaryScreen();
-  return QStringLiteral("%1/%2x%3@%4")
-      .arg(QStringLiteral(PANTRIGO_PICTURE_FOLDER))
-      .arg(screen.size().width())
-      .arg(screen.size().height())
-      .arg(screen.devicePixelRatio());
-}
-
-/// Whether the picture shows more than one colour.
-bool showsSomething(const QImage& picture) {
-  for (int y = 0; y < picture.height(); ++y) {
-    for (int x = 0; x < picture.width(); ++x) {
-      if (picture.pixel(x, y) != picture.pixel(0, 0)) return true;
-    }
-  }
-  return false;
-}
-
-void keep(QWidget& window, const QString& name) {
-  ASSERT_TRUE(QDir().mkpath(pictureFolder()));
-  const QPixmap picture = window.grab();
-  EXPECT_TRUE(showsSomething(picture.toImage()));
-  EXPECT_TRUE(picture.save(QDir(pictureFolder()).filePath(name + QStringLiteral(".png"))));
-}
 
 class PicturesTest : public DesktopTest {
  protected:
@@ -47,7 +18,7 @@ class PicturesTest : public DesktopTest {
     const ListBox& titles = run().frmBrowse.lstTitles;
     const QAbstractItemModel& shown = *widget<QListView>(titles).model();
     EXPECT_TRUE(QTest::qWaitFor([&] { return shown.rowCount() == titles.ListCount(); }));
-    keep(window(run().frmBrowse), QStringLiteral("frmBrowse-") + QLatin1String(state));
+    keepPicture(window(run().frmBrowse), QStringLiteral("frmBrowse-") + QLatin1String(state));
   }
   void press(const char* button) {
     QTest::mouseClick(window(run().frmBrowse).findChild<QToolButton*>(button), Qt::LeftButton);
@@ -62,8 +33,8 @@ TEST_F(PicturesTest, TheMainWindowsGoIntoAFolder) {
   EXPECT_TRUE(showsSomething(QImage(QDir(folder).filePath("frmBrowse.png"))));
   EXPECT_TRUE(showsSomething(QImage(QDir(folder).filePath("frmDetail.png"))));
   EXPECT_EQ(run().frmDetail.txtTitle.Text(), "Apple Pie");
-  keep(window(run().frmBrowse), "frmBrowse");
-  keep(window(run().frmDetail), "frmDetail");
+  keepPicture(window(run().frmBrowse), "frmBrowse");
+  keepPicture(window(run().frmDetail), "frmDetail");
 }
 
 TEST_F(PicturesTest, TheMainWindowHasOneOfEachOfItsFilterStates) {
@@ -113,12 +84,12 @@ TEST_F(PicturesTest, TheDialogsHavePictures) {
   start();
   open(0);
   dialogs.whenShown("frmOven", [this] {
-    keep(window(run().frmOven), "frmOven");
+    keepPicture(window(run().frmOven), "frmOven");
     DesktopTest::press(run().frmOven, Qt::Key_Escape);
   });
   action(run().frmDetail.mnuOven).trigger();
   dialogs.whenShown("frmAbout", [this] {
-    keep(window(run().frmAbout), "frmAbout");
+    keepPicture(window(run().frmAbout), "frmAbout");
     DesktopTest::press(run().frmAbout, Qt::Key_Return);
   });
   action(run().frmDetail.mnuAbout).trigger();
