@@ -95,6 +95,7 @@ FormView::FormView(Form& form, ViewHost& host)
   box->setContentsMargins(0, 0, 0, 0);
   box->addWidget(canvas_);
   if (hasMenu(form)) buildMenu();
+  if (!isMainWindow()) setDialogFont();
   canvas_->installEventFilter(this);
   buildControls();
   orderTabs();
@@ -192,11 +193,15 @@ void FormView::setUpMainWindow() {
   move(area.fitted(area.area.topLeft() + wanted, client));
 }
 
+void FormView::setDialogFont() {
+  // Before there are any widgets: a list with rows measures all of them when it gets another font.
+  QFont font = canvas_->font();
+  font.setPixelSize(textPixelSize(host_.area().scale));
+  canvas_->setFont(font);
+}
+
 void FormView::setUpDialog() {
   const ScreenArea area = host_.area();
-  QFont font = canvas_->font();
-  font.setPixelSize(textPixelSize(area.scale));
-  canvas_->setFont(font);
   laidOut_ = layOutDialog(*this, *canvas_);
   if (laidOut_) {
     layout()->setSizeConstraint(QLayout::SetFixedSize);

@@ -58,6 +58,7 @@ class FormView : public QWidget, private FormListener {
   void orderTabs();
   void nameControls();
   void setUpMainWindow();
+  void setDialogFont();
   void setUpDialog();
 
   [[nodiscard]] bool isMainWindow() const { return menu_ != nullptr; }
