@@ -4,8 +4,6 @@
 #include <iterator>
 #include <utility>
 
-#include "platform/text/collation.h"
-
 namespace pantrigo {
 
 ListRow& ListRows::last() const {
@@ -42,7 +40,7 @@ void ListRows::setSorted(bool sorted) {
   if (sorted == sorted_) return;
   settle();
   sorted_ = sorted;
-  lastKey_.clear();
+  lastPlace_.reset();
   const auto before = [](const ListRow& left, const ListRow& right) { return collate(left.text, right.text) < 0; };
   inOrder_ = !sorted || std::is_sorted(rows_.begin(), rows_.end(), before);
 }
@@ -58,16 +56,16 @@ void ListRows::add(std::string_view text) {
 }
 
 void ListRows::addInOrder(std::string_view text) {
-  std::string key = sortKey(text);
-  if (count() > 0 && lastKey_.empty()) lastKey_ = sortKey(last().text);
-  const bool becomesLast = count() == 0 || key >= lastKey_;
-  if (becomesLast) lastKey_ = key;
+  TextPlace place(text);
+  if (count() > 0 && !lastPlace_) lastPlace_.emplace(last().text);
+  const bool becomesLast = count() == 0 || place.compare(*lastPlace_) >= 0;
+  if (becomesLast) lastPlace_ = place;
   if (becomesLast && waiting_.empty()) {
     rows_.push_back({std::string(text), {}, false});
     return;
   }
   if (becomesLast) lastWaiting_ = static_cast<int>(waiting_.size());
-  waiting_.push_back({std::move(key), {std::string(text), {}, false}});
+  waiting_.push_back({std::move(place), {std::string(text), {}, false}});
 }
 
 void ListRows::addBeforeGreater(std::string_view text) {
@@ -82,8 +80,9 @@ void ListRows::settle() const {
   std::vector<WaitingRow*> added;
   added.reserve(waiting_.size());
   for (WaitingRow& row : waiting_) added.push_back(&row);
-  std::stable_sort(added.begin(), added.end(),
-                   [](const WaitingRow* left, const WaitingRow* right) { return left->key < right->key; });
+  std::stable_sort(added.begin(), added.end(), [](const WaitingRow* left, const WaitingRow* right) {
+    return left->place.compare(right->place) < 0;
+  });
   merge(added);
   waiting_ = {};
   lastWaiting_ = -1;
@@ -129,13 +128,13 @@ std::size_t ListRows::placeOf(std::string_view text, std::size_t end) const {
 void ListRows::remove(int row) {
   settle();
   rows_.erase(rows_.begin() + row);
-  lastKey_.clear();
+  lastPlace_.reset();
 }
 
 void ListRows::clear() {
   rows_ = {};
   waiting_ = {};
-  lastKey_.clear();
+  lastPlace_.reset();
   lastWaiting_ = -1;
   followed_ = -1;
   inOrder_ = true;

@@ -2,9 +2,12 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
+
+#include "platform/text/collation.h"
 
 namespace pantrigo {
 
@@ -58,7 +61,7 @@ class ListRows {
 
  private:
   struct WaitingRow {
-    std::string key;
+    TextPlace place;
     ListRow row;
   };
 
@@ -78,8 +81,8 @@ class ListRows {
   mutable int followed_ = -1;
   /// Which waiting row is the last of all; -1 when a settled one is.
   mutable int lastWaiting_ = -1;
-  /// Sort key of the last row of all; empty when it isn't known.
-  std::string lastKey_;
+  /// Where the last row of all stands; nothing when it isn't known.
+  std::optional<TextPlace> lastPlace_;
   bool sorted_ = false;
   /// Whether the settled rows are in the order of texts. Counts while `sorted_` is set.
   bool inOrder_ = true;

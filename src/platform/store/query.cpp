@@ -21,6 +21,7 @@ namespace {
 
 /// A source of a single word can only be meant as a table's name.
 void refuseUnknownTable(std::string_view source) {
+  if (source.find_first_of("'(=") != std::string_view::npos) return;
   const std::vector<SqlToken> tokens = lexSql(source);
   const bool isName = tokens.size() == 2 && tokens.front().kind == SqlToken::Kind::Word;
   if (isName) throw RuntimeError(store_error::noSuchTable);
@@ -73,7 +74,7 @@ bool exceeds(Connection& connection, const Membership& membership, std::int64_t 
 /// Which of the memberships has the fewest rows, give or take a factor of two. All are counted up to a limit that grows
 /// until one of them stays below, so the work goes by the smallest.
 std::size_t smallestMembership(Connection& connection, const std::vector<Membership>& memberships) {
-  constexpr std::int64_t firstLimit = 64;
+  constexpr std::int64_t firstLimit = 512;
   constexpr std::int64_t limitGrowth = 8;
   std::vector<std::size_t> candidates(memberships.size());
   std::iota(candidates.begin(), candidates.end(), std::size_t{0});

@@ -123,15 +123,24 @@ std::string_view withoutTrailingBlanks(std::string_view text) {
   return text.substr(0, text.find_last_not_of(" \t") + 1);
 }
 
+/// The place of a plain character or a tab among them, from 1; 0 for any other byte.
+std::uint8_t rankOf(char character) {
+  static const std::array<std::uint8_t, 128> ranks = plainRanks();
+  const auto byte = static_cast<unsigned char>(character);
+  return byte < 128 ? ranks[byte] : std::uint8_t{0};
+}
+
+/// A plain character of a rank.
+char characterOf(std::uint8_t rank) {
+  char character = firstPlain;
+  while (rankOf(character) != rank) ++character;
+  return character;
+}
+
 /// Whether both texts hold plain characters and tabs only, from end to end; their order is then in `result`.
 bool collatePlain(std::string_view left, std::string_view right, int& result) {
   left = withoutTrailingBlanks(left);
   right = withoutTrailingBlanks(right);
-  static const std::array<std::uint8_t, 128> ranks = plainRanks();
-  const auto rankOf = [](char character) {
-    const auto byte = static_cast<unsigned char>(character);
-    return byte < 128 ? ranks[byte] : std::uint8_t{0};
-  };
   int difference = 0;
   const std::size_t common = std::min(left.size(), right.size());
   for (std::size_t place = 0; place < common; ++place) {
@@ -194,6 +203,34 @@ std::string sortKey(std::string_view text) {
     for (const int shift : {24, 16, 8, 0}) key += static_cast<char>((part >> shift) & 0xFF);
   }
   return key;
+}
+
+TextPlace::TextPlace(std::string_view text) : isPlain_(true) {
+  const std::string_view seen = withoutTrailingBlanks(text);
+  key_.reserve(seen.size());
+  for (const char character : seen) {
+    const std::uint8_t rank = rankOf(character);
+    if (rank == 0) {
+      key_ = sortKey(text);
+      isPlain_ = false;
+      return;
+    }
+    key_ += static_cast<char>(rank);
+  }
+}
+
+const std::string& TextPlace::fullKey() const {
+  if (!isPlain_) return key_;
+  if (fullKey_.empty()) {
+    std::string text;
+    for (const char rank : key_) text += characterOf(static_cast<std::uint8_t>(rank));
+    fullKey_ = sortKey(text);
+  }
+  return fullKey_;
+}
+
+int TextPlace::compare(const TextPlace& other) const {
+  return isPlain_ == other.isPlain_ ? key_.compare(other.key_) : fullKey().compare(other.fullKey());
 }
 
 std::string collationVersion() {

@@ -62,6 +62,20 @@ TEST(SortKey, ComparesAsTheTextsDo) {
   }
 }
 
+TEST(TextPlace, ComparesAsTheTextsDo) {
+  std::vector<std::string> texts = mixedTexts(400);
+  for (const char* plain : {"Apple pie", "apple  pie", "APPLE PIE ", "~", "_", "{}", "9", "Zz", "a\tb", "a b"}) {
+    texts.emplace_back(plain);
+  }
+  const std::vector<TextPlace> places(texts.begin(), texts.end());
+  for (std::size_t left = 0; left < texts.size(); ++left) {
+    for (std::size_t right = 0; right < texts.size(); ++right) {
+      ASSERT_EQ(sign(places[left].compare(places[right])), sign(collate(texts[left], texts[right])))
+          << texts[left] << " | " << texts[right];
+    }
+  }
+}
+
 TEST(SortKey, TakesLongTexts) {
   const std::string text(1000, 'a');
   EXPECT_EQ(sortKey(text), sortKey(std::string(1000, 'A') + "  "));
