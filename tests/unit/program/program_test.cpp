@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
+#include <fstream>
 
 #include "core/start_up.h"
 #include "newstore/make_store.h"
@@ -113,6 +114,22 @@ TEST_F(ProgramTest, ASecondRunOverTheSameStoreIsRefused) {
   EXPECT_EQ(two.run().loop.error()->number(), 3045);
   EXPECT_FALSE(one.ended());
   one.run().loop.dispatch([&] { one.run().loop.End(); });
+}
+
+/// The list of the last import is opened with errors ignored; what the store says afterwards is not.
+TEST_F(ProgramTest, AStoreThatFailsWhileTheLastImportIsListedEndsTheRun) {
+  makeCookbook(first_, "Apple Pie");
+  std::ofstream(first_ / "import.lst") << "Apple Pie\r\n";
+  Program program(toolkit_, first_);
+  program.start();
+  const auto listLastImported = [&] { program.run().frmBrowse.mnuListLastImported.Click(); };
+  program.run().loop.dispatch(listLastImported);
+  ASSERT_FALSE(program.ended());
+  EXPECT_EQ(program.run().frmBrowse.lstTitles.ListCount(), 1);
+  program.run().GLOBAL.gDatabase.Close();
+  program.run().loop.dispatch(listLastImported);
+  ASSERT_TRUE(program.run().loop.error().has_value());
+  EXPECT_EQ(program.run().loop.error()->number(), 3420);
 }
 
 }  // namespace
